@@ -1,0 +1,81 @@
+// Frames: how many, and where.
+#include "Qvx2Parser/QvxReaderRec.h"
+#include <cstring>
+
+namespace {
+
+// Walks and maps; afterwards the state's rows stand, unless the file is a directory.
+QvxStatus MapFrames(QvxParserRec* reader)
+{
+    reader->fReaderFlags |= kReaderWantsFrames;
+    if (const QvxStatus status = CheckAndFillDICOMHeaderPointers(reader, QvxParseMode::Lazy, 0))
+        return status;
+    return reader->fState ? kQvxOK : kQvxBadArgument;
+}
+
+}  // namespace
+
+QvxStatus Qvx2Reader_GetImageOffsetsAndSizes(QvxParserRec* reader, QvxHandle* map)
+{
+    if (!reader || !map)
+        return kQvxBadArgument;
+    if (!map->IsNull())
+        return kQvxResultNotNull;
+    if (const QvxStatus status = MapFrames(reader))
+        return status;
+    ExtraHeaderDataRec& state = *reader->fState;
+    std::span<const QvxFrameMapRecord> rows;
+    if (!state.IsDirectory()) {
+        if (const QvxStatus status = GetImageOffsets(state))
+            return status;
+        rows = state.fFrameMap;
+    }
+    const std::size_t bytes = rows.size_bytes();
+    QvxHandle made = reader->fCallbacks->fNewHandle(static_cast<std::int64_t>(bytes + 4));
+    if (made.IsNull())
+        return kQvxNoMemory;
+    const auto count = static_cast<std::uint32_t>(rows.size());
+    std::memcpy(made.Data(), &count, sizeof count);
+    if (bytes > 0)
+        std::memcpy(made.Data() + 4, rows.data(), bytes);
+    *map = std::move(made);
+    return kQvxOK;
+}
+
+std::span<const QvxFrameMapRecord> QvxFrameMapOf(const QvxHandle& map)
+{
+    return map.Array<QvxFrameMapRecord>(4);
+}
+
+QvxStatus Qvx2Reader_GetFrameMapRecord(QvxParserRec* reader, std::uint32_t frame,
+                                       QvxFrameMapRecord* row)
+{
+    if (!reader || !row)
+        return kQvxBadArgument;
+    if (const QvxStatus status = MapFrames(reader))
+        return status;
+    if (const QvxStatus status = GetImageOffsets(*reader->fState))
+        return status;
+    if (frame < 1 || frame > reader->fState->fFrameMap.size())
+        return kQvxBadArgument;
+    *row = reader->fState->fFrameMap[frame - 1];
+    return kQvxOK;
+}
+
+QvxStatus Qvx2Reader_GetNumberOfFrames(QvxParserRec* reader, std::uint32_t flags,
+                                       std::uint32_t* count)
+{
+    if (!reader || !count)
+        return kQvxBadArgument;
+    const bool claimed = (flags & kFramesClaimed) != 0;
+    if (const QvxStatus status =
+            claimed ? CheckAndFillDICOMHeaderPointers(reader, QvxParseMode::Lazy, 0)
+                    : MapFrames(reader))
+        return status;
+    const ExtraHeaderDataRec& state = *reader->fState;
+    if (state.IsDirectory())
+        *count = 0;
+    else
+        *count = claimed ? state.fNominalFrames : state.fActualFrames;
+    return kQvxOK;
+}

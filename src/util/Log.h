@@ -1,0 +1,9 @@
+// Plain lines to the system log (standard error), no levels. One call is one line: control
+// characters of `text` come out escaped, so that text from a file can't forge a line.
+#pragma once
+#include <string>
+#include <string_view>
+
+void LogLine(std::string_view text);
+// `text` with control characters, and bytes that are no UTF-8, as \xNN. For logs and terminals.
+[[nodiscard]] std::string EscapedText(std::string_view text);

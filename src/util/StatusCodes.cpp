@@ -1,0 +1,59 @@
+#include "util/StatusCodes.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace {
+
+struct StatusWords {
+    QvxStatus fStatus;
+    std::string_view fText;
+};
+
+// clang-format off
+constexpr auto kWords = std::to_array<StatusWords>({
+    { kQvxOK,              "no error" },
+    { kQvxDiskFull,        "the disk is full" },
+    { kQvxEndOfFile,       "the file ends too early" },
+    { kQvxFileNotFound,    "no such file" },
+    { kQvxBadArgument,     "bad argument or state" },
+    { kQvxNoMemory,        "not enough memory" },
+    { kQvxNullHandle,      "missing memory block" },
+    { kQvxUserCanceled,    "cancelled" },
+    { kQvxNotOfKind,       "not a DICOM file" },
+    { kQvxNoMovie,         "no movie can be made of it" },
+    { kQvxNoDataRefType,   "missing data reference type" },
+    { kQvxNoDataRef,       "missing data reference" },
+    { kQvxNullReader,      "missing reader" },
+    { kQvxUnsupported,     "an unsupported kind of data" },
+    { kQvxDrawStopped,     "drawing was stopped" },
+    { kQvxMalformed,       "malformed data" },
+    { kQvxNoDefaultWindow, "no window in the image" },
+    { kQvxSeekFailed,      "a broken chain of data" },
+    { kQvxBadChain,        "a bad element reference" },
+    { kQvxBadValueIndex,   "value index out of range" },
+    { kQvxNoDestination,   "missing destination" },
+    { kQvxBadMultiplicity, "bad value multiplicity" },
+    { kQvxWrongVR,         "the value representation does not allow this" },
+    { kQvxNotASequence,    "not a sequence" },
+    { kQvxNoResultRecord,  "missing result record" },
+    { kQvxNoSuchElement,   "no such element" },
+    { kQvxNoValue,         "no value" },
+    { kQvxResultNotNull,   "result is not empty" },
+    { kQvxOutOfMemory,     "not enough memory" },
+    { kQvxNegativeSize,    "negative size" },
+    { kQvxNoImporter,      "no importer" },
+});
+// clang-format on
+
+}  // namespace
+
+std::string_view StatusText(QvxStatus status)
+{
+    if (status > 0)
+        return std::strerror(status);
+    const auto row = std::find_if(kWords.begin(), kWords.end(),
+                                  [status](const StatusWords& w) { return w.fStatus == status; });
+    return row != kWords.end() ? row->fText : "unknown error";
+}
