@@ -57,6 +57,7 @@ QvxStatus SeekForward(QvxParserRec* reader, QvxElementTag tag, std::uint32_t off
 {
     ExtraHeaderDataRec& state = *reader->fState;
     const ByteSourceUse use(state.fDataRef);
+    const ReadAheadScope ahead(state);
     state.fMode = QvxParseMode::SingleElement;
     state.fTargetGroup = tag.group;
     state.fTargetElement = tag.element;
@@ -182,6 +183,7 @@ QvxStatus QvxChildrenOf(QvxParserRec* reader, QvxIndex parent, int firstLevel, Q
                          state.fPixelElement != 0;
     if (!isFrame && (!seen.fRead || (seen.fContent == 0 && seen.fLength != 0))) {
         const ByteSourceUse use(state.fDataRef);
+        const ReadAheadScope ahead(state);
         state.fMode = QvxParseMode::Lazy;
         for (int level = firstLevel; level >= 0 && state[parent].fContent == 0; --level) {
             std::uint32_t offset = seen.fValueOffset;

@@ -95,17 +95,12 @@ QvxStatus Qvx2Reader_SetInputFileURL(QvxParserRec* reader, const char* path, std
         return kQvxNoDataRef;
     DropWalk(reader);
     reader->fStream.reset();
-    reader->fPath.clear();
     if (std::strlen(path) >= kMaxPathBytes)
         return kQvxFileNotFound;
     std::unique_ptr<FileSource> source;
     if (const QvxStatus status = FileSource::Open(path, &source))
         return status;
-    source->EndUse();
-    if (const QvxStatus status = SetStream(reader, std::move(source), options))
-        return status;
-    reader->fPath = path;
-    return kQvxOK;
+    return SetStream(reader, std::move(source), options);
 }
 
 QvxStatus Qvx2Parser_Open(QvxReaderPtr* reader, const char* path, std::uint32_t options)
@@ -154,6 +149,12 @@ QvxStatus Qvx2Reader_ValidateDataRef(QvxParserRec* reader, bool* valid)
         return kQvxBadArgument;
     if (!reader->fStream)
         return kQvxNoDataRef;
+    const ByteSourceUse use(reader->fStream.get());
+    // The marker alone makes a file DICOM: no walk need begin for it.
+    if (HasMarker(reader->fCallbacks, reader->fStream.get(), valid) == kQvxOK && *valid) {
+        reader->fDictHits = 5;
+        return kQvxOK;
+    }
     QvxStatePtr state;
     const QvxStatus status =
         Read_DICOM_Header(reader->fCallbacks, reader->fStream.get(), &state, QvxParseMode::Validate,

@@ -3,6 +3,7 @@
 #include "util/CheckedMath.h"
 
 #include "Qvx2Parser/QvxDictionary.h"
+#include "Qvx2Parser/QvxWalk.h"
 #include <algorithm>
 #include <cstring>
 
@@ -68,10 +69,8 @@ QvxStatus ReadImmediate(ExtraHeaderDataRec& state, QvxIndex element, std::uint32
         state.fAnomalies |= kAnomalyLength;
     std::uint32_t position = *offset, value = 0;
     std::uint16_t word = 0;
-    const QvxReadProc readData = state.fCallbacks->fReadData;
-    const QvxStatus status = natural == 4
-                                 ? Read_LongU(readData, state.fDataRef, &position, &value, order)
-                                 : Read_ShortU(readData, state.fDataRef, &position, &word, order);
+    const QvxStatus status = natural == 4 ? WalkNumber(state, &position, &value, order)
+                                          : WalkNumber(state, &position, &word, order);
     if (status != kQvxOK) {
         *offset = position;
         return status;
@@ -120,13 +119,6 @@ QvxStatus ReadSingle(ExtraHeaderDataRec& state, QvxIndex element, std::uint32_t*
 
 }  // namespace
 
-std::int32_t InitialMultiplicity(QvxVRIndex vr)
-{
-    const bool one = vr == kVRIndexOB || vr == kVRIndexOF || vr == kVRIndexOW || vr == kVRIndexSQ ||
-                     vr == kVRIndexUN || IsItemMarker(vr);
-    return one ? 1 : -1;
-}
-
 std::uint32_t ValueByteOrder(const ExtraHeaderDataRec& state, QvxIndex element)
 {
     return state.fArena.At(element).fGroup == 0x0002 ? 0 : state.fByteOrder;
@@ -134,7 +126,10 @@ std::uint32_t ValueByteOrder(const ExtraHeaderDataRec& state, QvxIndex element)
 
 std::int32_t GetMultiplicity(ExtraHeaderDataRec& state, QvxIndex element)
 {
-    const DicomHeaderDataStruct& counted = state[element];
+    DicomHeaderDataStruct& counted = state[element];
+    if (counted.fDictIndex == kDictIndexOpen)
+        counted.fDictIndex =
+            static_cast<std::int16_t>(PositionInDictionary(counted.fGroup, counted.fElement));
     if (counted.fDictIndex >= 0) {
         const QvxMultiplicity row = DictionaryMultiplicity(counted.fDictIndex);
         if (row.fMaximum >= 1)  // a plain count, whatever the value says

@@ -6,7 +6,14 @@
 
 // Multiplicity of an element before anything is known of its value: 1 for the kinds that always
 // have one value, else -1.
-[[nodiscard]] std::int32_t InitialMultiplicity(QvxVRIndex vr);
+[[nodiscard]] constexpr std::int32_t InitialMultiplicity(QvxVRIndex vr)
+{
+    constexpr auto bit = [](QvxVRIndex row) { return std::uint64_t{1} << row; };
+    constexpr std::uint64_t kOneValue = bit(kVRIndexOB) | bit(kVRIndexOF) | bit(kVRIndexOW) |
+                                        bit(kVRIndexSQ) | bit(kVRIndexUN) | bit(kVRIndexItem) |
+                                        bit(kVRIndexItemEnd) | bit(kVRIndexSequenceEnd);
+    return InVRSet(kOneValue, vr) ? 1 : -1;
+}
 // Reads the value of `element` at `*offset` into its record. kQvxMalformed when it was read before.
 [[nodiscard]] QvxStatus GetFlatElementContent(ExtraHeaderDataRec& state, QvxIndex element,
                                               std::uint32_t* offset);

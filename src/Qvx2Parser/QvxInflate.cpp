@@ -49,6 +49,8 @@ QvxStatus InflateDataSet(std::uint32_t offset, ExtraHeaderDataRec& state)
 {
     if (state.fTransferSyntax != kTransferSyntaxDeflated || !state.Wants(kWalkInflate))
         return kQvxOK;
+    if (offset >= state.fFileSize)  // a meta group that runs past the end
+        return kQvxEndOfFile;
     const std::uint64_t limit =
         std::min<std::uint64_t>(std::uint64_t{state.fFileSize} * kMaxInflateRatio, UINT32_MAX - 1);
     try {
@@ -69,6 +71,8 @@ QvxStatus InflateDataSet(std::uint32_t offset, ExtraHeaderDataRec& state)
         return kQvxOutOfMemory;
     }
     state.fDataRef = state.fInflated.get();
+    if (state.fAhead)
+        state.fAhead->fCount = 0;  // it holds bytes of the file
     state.fWasInflated = true;
     state.fByteOrder = 0;
     state.fExplicitVR = 1;

@@ -28,10 +28,7 @@ QvxStatus ReadTag(ExtraHeaderDataRec& state, std::uint32_t* offset, QvxElementTa
 QvxIndex NewItem(ExtraHeaderDataRec& state, QvxVRIndex vr, std::uint32_t tagOffset,
                  std::uint32_t valueOffset, std::uint32_t length)
 {
-    const QvxIndex index = state.fArena.New();
-    if (!index)
-        return 0;
-    DicomHeaderDataStruct& item = state[index];
+    DicomHeaderDataStruct item;
     item.fGroup = kTagItem.group;
     item.fElement = kTagItem.element;
     item.fVR = ByteOfVRIndex(vr);
@@ -40,7 +37,7 @@ QvxIndex NewItem(ExtraHeaderDataRec& state, QvxVRIndex vr, std::uint32_t tagOffs
     item.fLength = length;
     item.fMultiplicity = 1;
     item.fDictIndex = static_cast<std::int16_t>(PositionInDictionary(0xFFFE, 0xE000));
-    return index;
+    return state.fArena.New(item);
 }
 
 void HangChildren(ExtraHeaderDataRec& state, QvxIndex parent, QvxIndex head)

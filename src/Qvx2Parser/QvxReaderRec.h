@@ -19,7 +19,6 @@ struct QvxSideElement {
 struct QvxParserRec {
     std::uint32_t fSignature = kSignatureReader;
     std::uint32_t fSalt = 0;  // upper bits of this reader's references
-    std::string fPath;
     std::unique_ptr<ByteSource> fStream;
     std::uint32_t fFileSize = 0;
     std::uint32_t fOptions = 0;  // walkFlags of every walk

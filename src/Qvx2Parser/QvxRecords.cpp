@@ -1,7 +1,23 @@
 #include "Qvx2Parser/QvxRecords.h"
 
-#include <cstring>
+#include <algorithm>
 #include <new>
+#include <utility>
+
+namespace {
+
+// The block in which walks of this thread grow their list. Growing one anew for each file would
+// cost more than the walk.
+constexpr std::size_t kLargestSpare = 32 * 1024;  // elements: 1.25 MiB
+thread_local std::vector<DicomHeaderDataStruct> tSpareElements;
+
+void GiveBack(std::vector<DicomHeaderDataStruct>&& block)
+{
+    if (block.capacity() > tSpareElements.capacity() && block.capacity() <= kLargestSpare)
+        tSpareElements = std::move(block);
+}
+
+}  // namespace
 
 ExtraHeaderDataRec::~ExtraHeaderDataRec()
 {
@@ -9,18 +25,26 @@ ExtraHeaderDataRec::~ExtraHeaderDataRec()
         fFrameList = std::move(fFrameList->fNext);
 }
 
-QvxIndex QvxArena::New()
+QvxArena::QvxArena() : fElements(std::move(tSpareElements))
 {
-    if (fElements.size() >= kMaxElements)
-        return 0;
+    fElements.clear();
+    fElements.emplace_back();
+}
+
+QvxArena::~QvxArena() { GiveBack(std::move(fElements)); }
+
+bool QvxArena::Grow()
+{
+    const std::size_t count = fElements.size();
+    if (count >= kMaxElements)
+        return false;
     try {
-        if (fElements.size() == fElements.capacity())
-            fElements.reserve(fElements.size() < 128 ? 128 : fElements.size() * 2);
-        fElements.emplace_back();
+        fElements.reserve(
+            std::min<std::size_t>(std::max<std::size_t>(count * 2, 256), kMaxElements));
+        return true;
     } catch (const std::bad_alloc&) {
-        return 0;
+        return false;
     }
-    return static_cast<QvxIndex>(fElements.size() - 1);
 }
 
 void QvxArena::DropLast(QvxIndex index)
@@ -45,8 +69,12 @@ std::uint32_t QvxArena::NewBlock(std::uint32_t size)
 
 void QvxArena::Trim()
 {
+    if (fElements.size() == fElements.capacity())
+        return;
     try {
-        fElements.shrink_to_fit();
+        std::vector<DicomHeaderDataStruct> kept(fElements.begin(), fElements.end());
+        std::swap(kept, fElements);
+        GiveBack(std::move(kept));
     } catch (const std::bad_alloc&) {
         return;  // what is set aside stays
     }

@@ -22,6 +22,7 @@ inline constexpr int kMaxNesting = 128;                  // sequences and items 
 inline constexpr std::uint32_t kMaxInflateRatio = 128;   // inflated bytes for a byte of the file
 
 using QvxIndex = std::uint32_t;
+inline constexpr std::int16_t kDictIndexOpen = -2;
 
 // Where an element's value is. `Immediate` lies in the content cell itself.
 enum class QvxContent : std::uint8_t { None = 0, Immediate = 1, Children = 2, Block = 3 };
@@ -53,12 +54,21 @@ static_assert(sizeof(DicomHeaderDataStruct) == 40);
 // All elements and values of one walk. References to elements do not survive `New`.
 class QvxArena {
 public:
-    QvxArena() { fElements.emplace_back(); }
+    QvxArena();
+    ~QvxArena();
+    QvxArena(const QvxArena&) = delete;
+    QvxArena& operator=(const QvxArena&) = delete;
     [[nodiscard]] DicomHeaderDataStruct& At(QvxIndex index) { return fElements[index]; }
     [[nodiscard]] const DicomHeaderDataStruct& At(QvxIndex index) const { return fElements[index]; }
     [[nodiscard]] bool Holds(QvxIndex index) const { return index > 0 && index < fElements.size(); }
-    // A fresh element; 0 when memory or kMaxElements is used up.
-    [[nodiscard]] QvxIndex New();
+    // Adds an element; 0 when memory or kMaxElements is used up.
+    [[nodiscard]] QvxIndex New(const DicomHeaderDataStruct& element)
+    {
+        if (fElements.size() == fElements.capacity() && !Grow())
+            return 0;
+        fElements.push_back(element);
+        return static_cast<QvxIndex>(fElements.size() - 1);
+    }
     // Takes back the last `New`, if nothing was made since.
     void DropLast(QvxIndex index);
     [[nodiscard]] QvxIndex Count() const { return static_cast<QvxIndex>(fElements.size()); }
@@ -67,10 +77,12 @@ public:
     // A block for a value of `size` bytes and a terminator; 0 when memory ran out.
     [[nodiscard]] std::uint32_t NewBlock(std::uint32_t size);
     [[nodiscard]] std::byte* Block(std::uint32_t number) { return fBlocks[number - 1].get(); }
-    // Gives back what growing has set aside.
+    // Keeps what is needed in a block of just that size.
     void Trim();
 
 private:
+    [[nodiscard]] bool Grow();
+
     std::vector<DicomHeaderDataStruct> fElements;  // [0] is never handed out
     std::vector<NoxBlock> fBlocks;
 };
@@ -124,6 +136,13 @@ struct QvxFrameMapRecord {
     bool operator==(const QvxFrameMapRecord&) const = default;
 };
 
+// Bytes that a walk has read ahead of itself, on the stack of whoever began it: an element's header
+// is a few bytes, and a call through the host's table for each costs more than reading it.
+struct QvxReadAhead {
+    std::uint32_t fStart = 0, fCount = 0;
+    std::byte fBytes[512];
+};
+
 // The state of one file's walk. Fields that start as "UNKN" are not known yet.
 struct ExtraHeaderDataRec {
     ~ExtraHeaderDataRec();
@@ -132,6 +151,7 @@ struct ExtraHeaderDataRec {
     const QvxHostCallbacks* fCallbacks = nullptr;
     std::uintptr_t fMemoryEnv = 0;
     QvxArena fArena;
+    QvxReadAhead* fAhead = nullptr;  // while a walk is under way
     std::uint16_t fPixelDataSeen = 0;
     std::uint16_t fRows = 0, fColumns = 0;
     std::uint16_t fBitsAllocated = 8;

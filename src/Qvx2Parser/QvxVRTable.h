@@ -157,10 +157,20 @@ inline constexpr auto kVRRowsByPlace = [] {
     return (row != kVRIndexNone && row != kVRIndexBlank) || QvxModernVR(letters) != kVRIndexNone;
 }
 
-[[nodiscard]] constexpr bool HasLongForm(QvxVRIndex vr)
+// Sets of rows as bits, for what every element of a walk asks.
+[[nodiscard]] constexpr bool InVRSet(std::uint64_t set, QvxVRIndex vr)
 {
-    return vr <= kVRIndexO2 && kVRTable[vr].fLongForm;
+    return vr < 64 && (set >> vr & 1) != 0;
 }
+
+inline constexpr std::uint64_t kLongFormVRs = [] {
+    std::uint64_t set = 0;
+    for (std::size_t i = 0; i < kVRTable.size(); ++i)
+        set |= kVRTable[i].fLongForm ? std::uint64_t{1} << i : 0;
+    return set;
+}();
+
+[[nodiscard]] constexpr bool HasLongForm(QvxVRIndex vr) { return InVRSet(kLongFormVRs, vr); }
 
 // 1: the number of values follows from the length; 2: it is counted in the value.
 [[nodiscard]] constexpr int MultiplicityRule(QvxVRIndex vr)

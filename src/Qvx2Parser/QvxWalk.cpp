@@ -28,10 +28,96 @@ void Link(ExtraHeaderDataRec& state, QvxIndex* head, QvxIndex previous, QvxIndex
         *head = element;
 }
 
+// Without Pixel Data there are no frames, whatever the header claims.
+void HandleImageData(ExtraHeaderDataRec& state)
+{
+    if (state.fPixelDataSeen)
+        return;
+    state.fOffsetTableState = kNoOffsetTable;
+    state.fNominalFrames = state.fActualFrames = 0;
+    state.fPixelDataOffset = state.fPixelDataLength = 0;
+}
+
+void UpdateIfWatched(QvxIndex element, ExtraHeaderDataRec& state)
+{
+    const DicomHeaderDataStruct& met = state[element];
+    if ((met.fGroup == 0x0028 || met.Tag() == kTagPixelData) && met.VR() != kVRIndexSQ &&
+        met.fLength != 0)
+        UpdateExtraHeaderData(element, state);
+}
+
+// The element at `offset`, which must have been read ahead, if it is one of definite length that a
+// lazy walk of a little endian file only jumps over; false for anything else, pixels, markers and
+// faults included: the full form decides on those.
+bool IsJumpedOver(std::uint32_t offset, const std::byte* bytes, const ExtraHeaderDataRec& state,
+                  DicomHeaderDataStruct* made)
+{
+    made->fGroup = LoadLE<std::uint16_t>(bytes);
+    made->fElement = LoadLE<std::uint16_t>(bytes + 2);
+    if (made->fGroup >= kTagPixelData.group)
+        return false;
+    QvxVRIndex vr = kVRIndexNone;
+    std::uint32_t header = 8;
+    made->fDictIndex = kDictIndexOpen;
+    if (state.fExplicitVR == 1) {
+        vr = QvxVRIndexOfLetters(LoadBE<std::uint16_t>(bytes + 4));
+        if (vr == kVRIndexNone)
+            return false;
+        header = HasLongForm(vr) ? 12 : 8;
+        made->fLength =
+            HasLongForm(vr) ? LoadLE<std::uint32_t>(bytes + 8) : LoadLE<std::uint16_t>(bytes + 6);
+    } else {
+        const std::int32_t row = PositionInDictionary(made->fGroup, made->fElement);
+        made->fDictIndex = static_cast<std::int16_t>(row);
+        if (row >= 0)
+            vr = DictionaryVRIndex(row);
+        made->fLength = LoadLE<std::uint32_t>(bytes + 4);
+    }
+    // Undefined, a fault, or a kind that other elements decide.
+    if (made->fLength > state.fFileSize || vr == kVRIndexU2 || vr == kVRIndexU3)
+        return false;
+    made->fTagOffset = offset;
+    made->fValueOffset = offset + header;
+    made->fMultiplicity = InitialMultiplicity(vr);
+    made->fVR = ByteOfVRIndex(vr);
+    return true;
+}
+
+// The lazy walk's common case in a few instructions: a run of elements that are only jumped over,
+// up to `end`. Links them behind `previous` and answers the last; `previous` when there is none.
+QvxIndex JumpOverRun(std::uint32_t* offset, std::uint64_t end, QvxIndex* head, QvxIndex previous,
+                     ExtraHeaderDataRec& state, bool topLevel)
+{
+    if (state.fMode != QvxParseMode::Lazy || state.fExplicitVR > 1 || state.fByteOrder != 0 ||
+        state.fDictHits < kHitsOfDicom || !state.fAhead)
+        return previous;
+    const QvxReadAhead& ahead = *state.fAhead;
+    DicomHeaderDataStruct made;
+    made.fImplicit = state.fInImplicitUN;
+    while (*offset < end) {
+        ReadAheadAt(state, *offset);
+        if (*offset < ahead.fStart || *offset - ahead.fStart + kLongestHeader > ahead.fCount ||
+            !IsJumpedOver(*offset, ahead.fBytes + (*offset - ahead.fStart), state, &made))
+            break;
+        const QvxIndex element = state.fArena.New(made);
+        if (!element)
+            break;
+        Link(state, head, previous, element);
+        previous = element;
+        *offset = AdvancedOffset(made.fValueOffset, made.fLength);
+        if (topLevel)
+            UpdateIfWatched(element, state);
+    }
+    return previous;
+}
+
 // The top-level loop from `offset` on, behind the meta group's last element.
 QvxStatus WalkTopLevel(std::uint32_t offset, ExtraHeaderDataRec& state, QvxIndex previous)
 {
     while (offset < state.fFileSize) {
+        previous = JumpOverRun(&offset, state.fFileSize, &state.fListHead, previous, state, true);
+        if (offset >= state.fFileSize)
+            break;
         QvxStatus error = kQvxOK;
         std::int32_t dictIndex = -1;
         const QvxIndex element =
@@ -43,8 +129,7 @@ QvxStatus WalkTopLevel(std::uint32_t offset, ExtraHeaderDataRec& state, QvxIndex
         if (element && element != previous) {
             Link(state, &state.fListHead, previous, element);
             previous = element;
-            if (state[element].VR() != kVRIndexSQ && state[element].fLength != 0)
-                UpdateExtraHeaderData(element, state);
+            UpdateIfWatched(element, state);
         }
         if (state.fPixelDataSeen)
             break;
@@ -52,16 +137,6 @@ QvxStatus WalkTopLevel(std::uint32_t offset, ExtraHeaderDataRec& state, QvxIndex
     if (state.fMode == QvxParseMode::Validate)
         state.fDictHits = kHitsOfDicom;
     return kQvxOK;
-}
-
-// Without Pixel Data there are no frames, whatever the header claims.
-void HandleImageData(ExtraHeaderDataRec& state)
-{
-    if (state.fPixelDataSeen)
-        return;
-    state.fOffsetTableState = kNoOffsetTable;
-    state.fNominalFrames = state.fActualFrames = 0;
-    state.fPixelDataOffset = state.fPixelDataLength = 0;
 }
 
 QvxStatus WalkFile(ExtraHeaderDataRec& state)
@@ -190,6 +265,7 @@ QvxStatus Read_DICOM_Header(const QvxHostCallbacks* callbacks, ByteSource* dataR
         return kQvxOutOfMemory;
     (*state)->fSearchStart = searchStart;
     const ByteSourceUse use(dataRef);
+    const ReadAheadScope ahead(**state);
     const QvxStatus status = WalkFile(**state);
     if (mode == QvxParseMode::Lazy)
         HandleImageData(**state);
@@ -210,6 +286,7 @@ QvxStatePtr SetupNewExtraHeaderDataStruct(const QvxHostCallbacks* callbacks, Byt
     if (!state)
         return nullptr;
     const ByteSourceUse use(dataRef);
+    const ReadAheadScope ahead(*state);
     *error = kQvxOK;
     std::uint32_t offset = 0;
     (void)Handle_DICOM_MetaInformation(&offset, *state, error);
@@ -240,12 +317,10 @@ QvxIndex Read_DICOM_NextElement_Combined(std::uint32_t* offset, QvxIndex previou
     };
     QvxElementHeader header;
     header.fTagOffset = *offset;
-    const QvxReadProc read = state.fCallbacks->fReadData;
-    if (const QvxStatus status =
-            Read_ShortU(read, state.fDataRef, offset, &header.fTag.group, state.fByteOrder))
+    ReadAheadAt(state, *offset);
+    if (const QvxStatus status = WalkNumber(state, offset, &header.fTag.group, state.fByteOrder))
         return failed(status, header.fTagOffset, header.fTag);
-    if (const QvxStatus status =
-            Read_ShortU(read, state.fDataRef, offset, &header.fTag.element, state.fByteOrder))
+    if (const QvxStatus status = WalkNumber(state, offset, &header.fTag.element, state.fByteOrder))
         return failed(status, header.fTagOffset, header.fTag);
     const QvxElementTag target{state.fTargetGroup, state.fTargetElement};
     if (state.fMode == QvxParseMode::SingleElement && level == 1 && state.fNesting == 0 &&
@@ -253,12 +328,15 @@ QvxIndex Read_DICOM_NextElement_Combined(std::uint32_t* offset, QvxIndex previou
         *offset = state.fFileSize;
         return previous;
     }
-    header.fDictIndex = *dictIndex = PositionInDictionary(header.fTag.group, header.fTag.element);
-    if (header.fDictIndex >= 0) {
-        ++state.fDictHits;
-        if (ValidatedEnough(state))
+    // Only implicit form, and a file not known to be DICOM yet, need the dictionary now.
+    header.fDictIndex = kDictIndexOpen;
+    if (state.fExplicitVR != 1 || state.fDictHits < kHitsOfDicom) {
+        header.fDictIndex = PositionInDictionary(header.fTag.group, header.fTag.element);
+        state.fDictHits += header.fDictIndex >= 0 ? 1 : 0;
+        if (header.fDictIndex >= 0 && ValidatedEnough(state))
             return previous;
     }
+    *dictIndex = header.fDictIndex;
     if (const QvxStatus status =
             GetVRandLength(offset, state, header.fTag, header.fDictIndex, state.fExplicitVR,
                            state.fByteOrder, &header.fVR, &header.fLength))
@@ -278,25 +356,23 @@ QvxIndex Read_DICOM_NextElement_Combined(std::uint32_t* offset, QvxIndex previou
 QvxIndex FillDICOMHeaderDataStruct_Combined(const QvxElementHeader& header, std::uint32_t* offset,
                                             ExtraHeaderDataRec& state, int level, QvxStatus* error)
 {
-    const QvxIndex index = state.fArena.New();
-    if (!index) {
-        *error = state.fArena.Count() >= kMaxElements ? kQvxMalformed : kQvxOutOfMemory;
-        return 0;
-    }
     QvxVRIndex vr = header.fVR;
     if (vr == kVRIndexU2 || vr == kVRIndexU3)
         vr = state.fPixelRepresentation == 1 ? kVRIndexSS : kVRIndexUS;
-    {
-        DicomHeaderDataStruct& element = state[index];
-        element.fGroup = header.fTag.group;
-        element.fElement = header.fTag.element;
-        element.fVR = ByteOfVRIndex(vr);
-        element.fLength = header.fLength;
-        element.fDictIndex = static_cast<std::int16_t>(header.fDictIndex);
-        element.fTagOffset = header.fTagOffset;
-        element.fValueOffset = *offset;
-        element.fMultiplicity = InitialMultiplicity(vr);
-        element.fImplicit = state.fInImplicitUN;
+    DicomHeaderDataStruct made;
+    made.fGroup = header.fTag.group;
+    made.fElement = header.fTag.element;
+    made.fVR = ByteOfVRIndex(vr);
+    made.fLength = header.fLength;
+    made.fDictIndex = static_cast<std::int16_t>(header.fDictIndex);
+    made.fTagOffset = header.fTagOffset;
+    made.fValueOffset = *offset;
+    made.fMultiplicity = InitialMultiplicity(vr);
+    made.fImplicit = state.fInImplicitUN;
+    const QvxIndex index = state.fArena.New(made);
+    if (!index) {
+        *error = state.fArena.Count() >= kMaxElements ? kQvxMalformed : kQvxOutOfMemory;
+        return 0;
     }
     const std::uint32_t valueOffset = *offset;
     const bool definite = header.fLength != kUndefinedLength;
@@ -375,7 +451,14 @@ QvxIndex ParseDICOMHeaderFromOffset(std::uint32_t* offset, std::uint32_t length,
     }
     const std::uint64_t end = std::uint64_t{*offset} + length;
     QvxIndex head = 0, previous = 0;
+    const std::uint64_t stop = definite && end < state.fFileSize ? end : state.fFileSize;
     while (*offset < state.fFileSize) {
+        previous = JumpOverRun(offset, stop, &head, previous, state, false);
+        if (*offset >= stop) {
+            if (definite && *offset > end && *offset <= state.fFileSize)
+                *error = kQvxMalformed;
+            break;
+        }
         std::int32_t dictIndex = -1;
         const QvxIndex element = Read_DICOM_NextElement_Combined(offset, previous, state,
                                                                  workingLevel, &dictIndex, error);

@@ -1,6 +1,8 @@
 // The walk over a file: from bytes to linked element records. Internal to the reader; what lies
 // outside calls Qvx2Reader.h. Offsets are bytes from the start of the walked form.
 #pragma once
+#include "util/ByteOrder.h"
+
 #include "Qvx2Parser/QvxRecords.h"
 #include <cstdint>
 #include <memory>
@@ -25,6 +27,9 @@ using QvxStatePtr = std::unique_ptr<ExtraHeaderDataRec>;
                                                  ByteSource* dataRef, QvxParseMode mode,
                                                  std::uintptr_t memoryEnv, std::uint32_t walkFlags);
 
+// Does "DICM" stand at 128? A file that can't be read answers its status.
+[[nodiscard]] QvxStatus HasMarker(const QvxHostCallbacks* callbacks, ByteSource* dataRef,
+                                  bool* answer);
 // Preamble test and meta group; answers the last meta element. In validate mode a marker ends it.
 QvxIndex Handle_DICOM_MetaInformation(std::uint32_t* offset, ExtraHeaderDataRec& state,
                                       QvxStatus* error);
@@ -75,6 +80,63 @@ QvxIndex ParseDICOMHeaderFromOffset(std::uint32_t* offset, std::uint32_t length,
                                     ExtraHeaderDataRec& state, int level, QvxStatus* error);
 // Takes what the walk must know from an element that it has just met.
 void UpdateExtraHeaderData(QvxIndex element, ExtraHeaderDataRec& state);
+
+// Reads ahead for a scope, unless a scope further out does already.
+class ReadAheadScope {
+public:
+    explicit ReadAheadScope(ExtraHeaderDataRec& state) : fState(state), fOuter(state.fAhead)
+    {
+        if (!fOuter)
+            fState.fAhead = &fOwn;
+    }
+    ~ReadAheadScope() { fState.fAhead = fOuter; }
+    ReadAheadScope(const ReadAheadScope&) = delete;
+    ReadAheadScope& operator=(const ReadAheadScope&) = delete;
+
+private:
+    ExtraHeaderDataRec& fState;
+    QvxReadAhead* fOuter;
+    QvxReadAhead fOwn;
+};
+
+inline constexpr std::uint32_t kLongestHeader = 12;
+
+// Makes sure that a header at `offset` has been read ahead, as far as the file reaches.
+inline void ReadAheadAt(ExtraHeaderDataRec& state, std::uint32_t offset)
+{
+    QvxReadAhead* ahead = state.fAhead;
+    if (!ahead || offset >= state.fFileSize ||
+        (offset >= ahead->fStart &&
+         std::uint64_t{offset} + kLongestHeader <= std::uint64_t{ahead->fStart} + ahead->fCount))
+        return;
+    const std::uint32_t rest = state.fFileSize - offset;
+    const std::uint32_t count = rest < sizeof ahead->fBytes ? rest : sizeof ahead->fBytes;
+    std::uint32_t position = offset;
+    ahead->fStart = offset;
+    ahead->fCount =
+        state.fCallbacks->fReadData(state.fDataRef, ahead->fBytes, &position, count) == kQvxOK
+            ? count
+            : 0;
+}
+
+// A number of the walk, from what was read ahead or through the callback.
+template <typename T>
+[[nodiscard]] inline QvxStatus WalkNumber(ExtraHeaderDataRec& state, std::uint32_t* offset, T* dest,
+                                          std::uint32_t byteOrder)
+{
+    const QvxReadAhead* ahead = state.fAhead;
+    if (ahead && byteOrder <= 1 && *offset >= ahead->fStart &&
+        std::uint64_t{*offset} + sizeof(T) <= std::uint64_t{ahead->fStart} + ahead->fCount) {
+        const std::byte* bytes = ahead->fBytes + (*offset - ahead->fStart);
+        *dest = byteOrder == 0 ? LoadLE<T>(bytes) : LoadBE<T>(bytes);
+        *offset += sizeof(T);
+        return kQvxOK;
+    }
+    if constexpr (sizeof(T) == 2)
+        return Read_ShortU(state.fCallbacks->fReadData, state.fDataRef, offset, dest, byteOrder);
+    else
+        return Read_LongU(state.fCallbacks->fReadData, state.fDataRef, offset, dest, byteOrder);
+}
 
 // Counts one level of nesting for a scope.
 class NestingScope {

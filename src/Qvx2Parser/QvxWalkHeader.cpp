@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <cstring>
 #include <optional>
 #include <string_view>
 
@@ -26,9 +25,8 @@ constexpr auto kSopClasses = std::to_array<SopClassRow>({
 QvxStatus ReadExplicitHeader(std::uint32_t* offset, ExtraHeaderDataRec& state, QvxElementTag tag,
                              std::uint32_t byteOrder, QvxVRIndex* vr, std::uint32_t* length)
 {
-    const QvxReadProc read = state.fCallbacks->fReadData;
     std::uint16_t letters = 0;
-    if (const QvxStatus status = Read_ShortU(read, state.fDataRef, offset, &letters, 1))
+    if (const QvxStatus status = WalkNumber(state, offset, &letters, 1))
         return status;
     *vr = QvxVRIndexOfLetters(letters);
     if (*vr == kVRIndexNone && state.Wants(kWalkModernVRs))
@@ -37,43 +35,47 @@ QvxStatus ReadExplicitHeader(std::uint32_t* offset, ExtraHeaderDataRec& state, Q
         return kQvxMalformed;
     if (*vr != kVRIndexNone && HasLongForm(*vr)) {
         *offset = AdvancedOffset(*offset, 2);
-        if (const QvxStatus status = Read_LongU(read, state.fDataRef, offset, length, byteOrder))
+        if (const QvxStatus status = WalkNumber(state, offset, length, byteOrder))
             return status;
         return *vr == kVRIndexUT && *length == kUndefinedLength ? kQvxMalformed : kQvxOK;
     }
     std::uint16_t shortLength = 0;
-    const QvxStatus status = Read_ShortU(read, state.fDataRef, offset, &shortLength, byteOrder);
+    const QvxStatus status = WalkNumber(state, offset, &shortLength, byteOrder);
     *length = shortLength;
     return status;
 }
 
-// The value of a text element in the header, up to its first NUL; empty when it can't be had.
-std::string_view TextOf(QvxIndex element, ExtraHeaderDataRec& state)
-{
-    if (!state[element].fRead) {
-        std::uint32_t offset = state[element].fValueOffset;
-        if (GetElementContent(state, element, &offset, 1) != kQvxOK)
-            return {};
+// The value of a text element in the header, up to its first NUL; empty when it can't be had or is
+// longer than any that means something here. It is not kept: most files are never asked again.
+class HeaderText {
+public:
+    HeaderText(QvxIndex element, ExtraHeaderDataRec& state)
+    {
+        const DicomHeaderDataStruct& met = state[element];
+        std::uint32_t offset = met.fValueOffset;
+        if (met.fLength < sizeof fText &&
+            state.fCallbacks->fReadData(state.fDataRef, fText, &offset, met.fLength) != kQvxOK)
+            fText[0] = 0;
     }
-    const DicomHeaderDataStruct& read = state[element];
-    if (read.fContentKind != QvxContent::Block || read.fContent == 0)
-        return {};
-    const auto* text = reinterpret_cast<const char*>(state.fArena.Block(read.fContent));
-    return {text, ::strnlen(text, read.fLength)};
-}
+    [[nodiscard]] const char* Text() const { return fText; }
 
-// The value of a single 16-bit element; nullopt when it is none.
+private:
+    char fText[80] = {};
+};
+
+// The value of a single 16-bit element; nullopt when it is none. Not kept either.
 std::optional<std::uint16_t> ShortOf(QvxIndex element, ExtraHeaderDataRec& state)
 {
-    if (!state[element].fRead) {
-        std::uint32_t offset = state[element].fValueOffset;
-        if (GetElementContent(state, element, &offset, 1) != kQvxOK)
-            return std::nullopt;
-    }
-    const DicomHeaderDataStruct& read = state[element];
-    if (read.fContentKind != QvxContent::Immediate)
+    const DicomHeaderDataStruct& met = state[element];
+    if ((met.VR() != kVRIndexUS && met.VR() != kVRIndexSS) || met.fLength < 2)
         return std::nullopt;
-    return static_cast<std::uint16_t>(read.fContent);
+    if (met.fLength != 2)
+        state.fAnomalies |= kAnomalyLength;
+    std::uint32_t offset = met.fValueOffset;
+    std::uint16_t value = 0;
+    if (WalkNumber(state, &offset, &value, state.fByteOrder) != kQvxOK)
+        return std::nullopt;
+    return value;
 }
 
 void TakeTransferSyntax(std::string_view uid, ExtraHeaderDataRec& state)
@@ -139,7 +141,7 @@ QvxStatus GetVRandLength(std::uint32_t* offset, ExtraHeaderDataRec& state, QvxEl
             *vr = kVRIndexOW;
         else
             *vr = dictIndex < 0 ? kVRIndexNone : DictionaryVRIndex(dictIndex);
-        status = Read_LongU(state.fCallbacks->fReadData, state.fDataRef, offset, length, byteOrder);
+        status = WalkNumber(state, offset, length, byteOrder);
     }
     if (status != kQvxOK)
         return status;
@@ -158,18 +160,17 @@ void UpdateExtraHeaderData(QvxIndex element, ExtraHeaderDataRec& state)
 {
     switch (state[element].Tag().Key()) {
         case 0x00020002:
-            TakeSopClass(TextOf(element, state), state);
+            TakeSopClass(HeaderText(element, state).Text(), state);
             break;
         case 0x00020010:
-            TakeTransferSyntax(TextOf(element, state), state);
+            TakeTransferSyntax(HeaderText(element, state).Text(), state);
             break;
         case 0x00280002:
             state.fSamplesPerPixel = ShortOf(element, state).value_or(state.fSamplesPerPixel);
             break;
         case 0x00280008: {
             // atoi's reading, then 16 bits: what a header claims is only a claim.
-            const std::string_view text = TextOf(element, state);
-            const long frames = text.empty() ? 0 : std::strtol(text.data(), nullptr, 10);
+            const long frames = std::strtol(HeaderText(element, state).Text(), nullptr, 10);
             SetUnlessZero(&state.fNominalFrames, static_cast<std::uint16_t>(frames));
             break;
         }

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr std::uint32_t kPreambleSize = 128;
+constexpr std::uint32_t kMarkerSize = 4;
 
 // One element of the meta group. kQvxOK with `*ends` set at the first element of another group.
 QvxStatus ReadMetaElement(std::uint32_t* offset, ExtraHeaderDataRec& state,
@@ -17,15 +18,15 @@ QvxStatus ReadMetaElement(std::uint32_t* offset, ExtraHeaderDataRec& state,
     header.fTagOffset = *offset;
     if (state.fFirstElementOffset == 0)
         state.fFirstElementOffset = *offset;
-    const QvxReadProc read = state.fCallbacks->fReadData;
-    if (const QvxStatus status = Read_ShortU(read, state.fDataRef, offset, &header.fTag.group, 0))
+    ReadAheadAt(state, *offset);
+    if (const QvxStatus status = WalkNumber(state, offset, &header.fTag.group, 0))
         return status;
     if (header.fTag.group != 0x0002) {
         *offset = header.fTagOffset;
         *ends = true;
         return kQvxOK;
     }
-    if (const QvxStatus status = Read_ShortU(read, state.fDataRef, offset, &header.fTag.element, 0))
+    if (const QvxStatus status = WalkNumber(state, offset, &header.fTag.element, 0))
         return status;
     header.fDictIndex = PositionInDictionary(header.fTag.group, header.fTag.element);
     if (header.fDictIndex >= 0 && ++state.fDictHits >= 5 && state.fMode == QvxParseMode::Validate) {
@@ -47,18 +48,23 @@ QvxStatus ReadMetaElement(std::uint32_t* offset, ExtraHeaderDataRec& state,
 
 }  // namespace
 
+QvxStatus HasMarker(const QvxHostCallbacks* callbacks, ByteSource* dataRef, bool* answer)
+{
+    char marker[kMarkerSize] = {};
+    std::uint32_t position = kPreambleSize;
+    const QvxStatus status = callbacks->fReadData(dataRef, marker, &position, sizeof marker);
+    *answer = status == kQvxOK && std::memcmp(marker, "DICM", sizeof marker) == 0;
+    return status == kQvxEndOfFile ? kQvxOK : status;
+}
+
 QvxIndex Handle_DICOM_MetaInformation(std::uint32_t* offset, ExtraHeaderDataRec& state,
                                       QvxStatus* error)
 {
-    char marker[4] = {};
-    std::uint32_t position = kPreambleSize;
-    const QvxStatus status =
-        state.fCallbacks->fReadData(state.fDataRef, marker, &position, sizeof marker);
-    if (status != kQvxOK && status != kQvxEndOfFile) {
-        *error = status;
+    bool marked = false;
+    *error = HasMarker(state.fCallbacks, state.fDataRef, &marked);
+    if (*error != kQvxOK)
         return 0;
-    }
-    if (status != kQvxOK || std::memcmp(marker, "DICM", sizeof marker) != 0) {
+    if (!marked) {
         *offset = 0;
         return Read_DICOM_MetaInformation(offset, state, 0, error);
     }
@@ -69,7 +75,7 @@ QvxIndex Handle_DICOM_MetaInformation(std::uint32_t* offset, ExtraHeaderDataRec&
         *error = kQvxBadArgument;
         return 0;
     }
-    *offset = kPreambleSize + sizeof marker;
+    *offset = kPreambleSize + kMarkerSize;
     return Read_DICOM_MetaInformation(offset, state, 0, error);
 }
 

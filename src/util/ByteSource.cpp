@@ -39,7 +39,6 @@ QvxStatus FileSource::Open(const std::string& path, std::unique_ptr<FileSource>*
     opened->fPath = path;
     if (const QvxStatus status = opened->OpenDescriptor())
         return status;
-    opened->fUses = 1;
     *source = std::move(opened);
     return kQvxOK;
 }
@@ -128,13 +127,19 @@ QvxStatus FileSource::ReadAt(std::uint64_t offset, std::span<std::byte> dest)
             return ReadFile(offset, dest);
         if (!fWindow && !(fWindow = TakeWindow()))
             return ReadFile(offset, dest);
-        fNextWindow = fNextWindow ? std::min(fNextWindow * 2, kLargestWindow) : kFirstWindow;
+        // Reads that follow one another earn a larger window, jumps go back to the smallest.
+        const std::uint64_t windowEnd = fWindowStart + fWindowFilled;
+        const bool follows =
+            fWindowFilled > 0 && offset >= fWindowStart && offset < windowEnd + kFirstWindow;
+        fNextWindow = follows ? std::min(fNextWindow * 2, kLargestWindow) : kFirstWindow;
+        // A window that begins the file begins at its start: one page for most headers.
+        const std::uint64_t start = offset + dest.size() <= kFirstWindow ? 0 : offset;
         const auto fill =
-            static_cast<std::uint32_t>(std::min<std::uint64_t>(fNextWindow, fSize - offset));
+            static_cast<std::uint32_t>(std::min<std::uint64_t>(fNextWindow, fSize - start));
         fWindowFilled = 0;
-        if (const QvxStatus status = ReadFile(offset, {fWindow.get(), fill}))
+        if (const QvxStatus status = ReadFile(start, {fWindow.get(), fill}))
             return status;
-        fWindowStart = offset;
+        fWindowStart = start;
         fWindowFilled = fill;
     }
     std::memcpy(dest.data(), fWindow.get() + (offset - fWindowStart), dest.size());

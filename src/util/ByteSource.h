@@ -46,10 +46,10 @@ private:
 // A regular, non-empty file, opened read-only, close-on-exec and non-blocking; pipes, devices and
 // folders are refused without waiting. The descriptor is closed when the source is idle and opened
 // again on demand; a file that has been replaced or has changed size since answers kQvxSeekFailed.
-// Small reads are served from one window that grows from 4 to 64 KiB.
+// Small reads are served from one window that grows from 4 to 64 KiB while they go on.
 class FileSource final : public ByteSource {
 public:
-    // The source comes back in use once (one EndUse is the caller's). Answers kQvxFileNotFound for
+    // The descriptor stays open for the first use, which follows soon as a rule. Answers kQvxFileNotFound for
     // an empty path or one with a NUL in it, kQvxNotOfKind for something that is no regular file
     // or is empty, an errno when it can't be opened.
     [[nodiscard]] static QvxStatus Open(const std::string& path,

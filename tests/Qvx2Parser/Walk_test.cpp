@@ -249,4 +249,11 @@ TEST(Walk, inflates_a_deflated_data_set_within_bounds)
                           .Deflated();
     (void)TopLevelKeys(OpenFile(bomb.Bytes(), kQvxProgramOptions), &status);
     EXPECT_EQ(status, kQvxMalformed);
+    DicomBuilder past;  // a meta group that runs past the end
+    past.MetaGroup(Item()
+                       .Element(0x0002, 0x0010, "UI", kUidDeflated)
+                       .Element(0x0002, 0x0016, "AE", "x")
+                       .StateLength(100));
+    (void)TopLevelKeys(OpenFile(past.Bytes(), kQvxProgramOptions), &status);
+    EXPECT_EQ(status, kQvxEndOfFile);
 }

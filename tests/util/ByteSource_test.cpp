@@ -61,6 +61,7 @@ TEST_F(FileSourceTest, reads_the_files_bytes_in_any_order_in_use_and_idle)
     ASSERT_EQ(FileSource::Open(Write("data", bytes), &source), kQvxOK);
     const std::array<std::uint64_t, 9> offsets = {0,      4095,    4096, 10, 131'072,
                                                   65'535, 299'996, 3,    1};
+    source->BeginUse();
     for (int round = 0; round < 2; ++round) {
         for (const std::uint64_t offset : offsets) {
             for (const std::size_t count : {1u, 4u, 5000u}) {
@@ -83,7 +84,9 @@ TEST_F(FileSourceTest, an_idle_source_notices_that_its_file_was_replaced)
     const std::string path = Write("data", "0123456789");
     std::unique_ptr<FileSource> source;
     ASSERT_EQ(FileSource::Open(path, &source), kQvxOK);
-    source->EndUse();
+    {
+        const ByteSourceUse use(source.get());
+    }
     fs::rename(Write("other", "abcdefghij"), path);
     std::array<std::byte, 2> two;
     EXPECT_EQ(source->ReadAt(0, two), kQvxSeekFailed);
