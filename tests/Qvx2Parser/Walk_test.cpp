@@ -257,3 +257,34 @@ TEST(Walk, inflates_a_deflated_data_set_within_bounds)
     (void)TopLevelKeys(OpenFile(past.Bytes(), kQvxProgramOptions), &status);
     EXPECT_EQ(status, kQvxEndOfFile);
 }
+
+// Little endian files take a shorter way through the walk than big endian ones: the answers agree.
+TEST(Walk, all_forms_of_a_file_have_the_same_elements)
+{
+    const auto fill = [](DicomBuilder file) {
+        file.NoPreamble().CommonHeader().GroupLength(0x0018).Element(0x0018, 0x0050, "DS", "1.5");
+        const Item item = Item(Undefined).Element(0x0008, 0x1150, "UI", "1.2");
+        file.Sequence(0x0020, 0x1115, {item, Item().Element(0x0008, 0x1155, "UI", "3")}, Undefined);
+        file.Sequence(0x0020, 0x9116, {item}).Element(0x0020, 0x4000, "LT", std::string(900, 'c'));
+        file.Image({.rows = 3, .columns = 2, .signedness = 1}).Element(0x0028, 0x0106, "SS", -7);
+        return file.NativePixels({1, 2, 3, 4, 5, 6}).Bytes();
+    };
+    std::vector<std::uint32_t> wanted;
+    for (const std::string& bytes :
+         {fill(DicomBuilder().ExplicitBig()), fill(DicomBuilder().Explicit()),
+          fill(DicomBuilder().Implicit()), fill(DicomBuilder().ImplicitBig())}) {
+        const QvxReaderPtr reader = OpenFile(bytes);
+        QvxStatus status = kQvxMalformed;
+        const auto keys = TopLevelKeys(reader, &status);
+        EXPECT_EQ(status, kQvxOK);
+        wanted = wanted.empty() ? keys : wanted;
+        EXPECT_EQ(keys, wanted);
+        EXPECT_EQ(TextOf(reader, 0x0018, 0x0050), "1.5 ");
+        EXPECT_EQ(TextOf(reader, 0x0020, 0x4000), std::string(900, 'c'));
+        EXPECT_EQ(TextOf(reader, 0x0028, 0x0106), "-7") << "US or SS, by the representation";
+        EXPECT_EQ(Qvx2Reader_State(reader.get())->fColumns, 2);
+        std::uint32_t items = 0;
+        EXPECT_EQ(Qvx2Reader_GetSequenceNumItems(reader.get(), {0x0020, 0x1115}, &items), kQvxOK);
+        EXPECT_EQ(items, 2u);
+    }
+}

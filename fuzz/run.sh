@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# Builds the fuzz targets and runs them.
+#   fuzz/run.sh              each target for 60 seconds (or $FUZZ_SECONDS), from its kept corpus
+#   fuzz/run.sh --replay     each target over the corpus that make_corpus writes, and what was kept,
+#                            then 10,000 inputs grown from it with a fixed seed; what CI runs
+# A finding stops it with an exit code other than 0; the input is kept in build/fuzz/findings.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz --target make_corpus fuzz_walk fuzz_values fuzz_pixelmap
+corpus=build/fuzz/corpus findings=build/fuzz/findings
+mkdir -p "$corpus/seeds" "$findings"
+build/fuzz/bin/make_corpus "$corpus/seeds"
+
+limits=(-rss_limit_mb=2048 -timeout=20 -max_len=16384 "-artifact_prefix=$findings/")
+for target in fuzz_walk fuzz_values fuzz_pixelmap; do
+    mkdir -p "$corpus/$target"
+    if [ "${1:-}" = --replay ]; then
+        echo "replaying $target"
+        "build/fuzz/bin/$target" "${limits[@]}" -runs=0 "$corpus/seeds" "$corpus/$target" \
+            2>&1 | tail -n 1
+        "build/fuzz/bin/$target" "${limits[@]}" -runs=10000 -seed=1 "$corpus/seeds" \
+            2>&1 | tail -n 1
+    else
+        "build/fuzz/bin/$target" "${limits[@]}" "-max_total_time=${FUZZ_SECONDS:-60}" \
+            "$corpus/$target" "$corpus/seeds"
+    fi
+done
