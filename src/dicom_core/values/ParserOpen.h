@@ -1,0 +1,20 @@
+// How the program opens a DICOM file: with the program's reader options, and a check on demand.
+#pragma once
+#include "util/FileRef.h"
+
+#include "Qvx2Parser/Qvx2Reader.h"
+#include <string>
+
+// A reader on the file at `path` (bytes). With `validate` the file must also pass the reader's
+// check. The file is idle afterwards. `parser` is null unless the result is kQvxOK; kQvxNotOfKind
+// for a file that the check refuses, other codes as of Qvx2Parser_Open.
+[[nodiscard]] QvxStatus U_NewDicomParserForFile(const std::string& path, QvxReaderPtr* parser,
+                                                bool validate);
+// The same; kQvxBadArgument for an empty reference.
+[[nodiscard]] QvxStatus U_NewDicomParserForFileSpec(const FileRef& file, QvxReaderPtr* parser,
+                                                    bool validate);
+
+// Walks the header unless it has been walked. A walk counts as long as it met an element that the
+// dictionary knows, even if it breaks off: what stands in front of the damage is there to be used.
+// Else its code; kQvxNotOfKind for a walk without a fault, over a few zero bytes say.
+[[nodiscard]] QvxStatus Parser_WalkHeader(ParserHandle parser);
