@@ -5,7 +5,7 @@
 # libraries, QT the components of Qt 6. A dependency that does not stand on a lower floor of
 # cmake/floors.txt, or does not exist, stops the configuration. Qt's include path goes to nobody
 # who does not name it. TESTS are files of tests/<folder>, without ".cpp"; they make one program,
-# whose cases carry the folder's name as label, and "core" too when no widget is in it.
+# whose cases carry the label "core/<folder>", or "gui/<folder>" when there are widgets in it.
 
 file(STRINGS ${CMAKE_CURRENT_LIST_DIR}/floors.txt ZEL_FLOOR_LINES REGEX "^[0-9]")
 foreach(line IN LISTS ZEL_FLOOR_LINES)
@@ -73,15 +73,15 @@ function(zel_add_tests folder target qt)
     target_include_directories(${program} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_link_libraries(${program} PRIVATE ${target} zel_test_fixtures ${main})
     zel_link_qt(${program} ${qt})
-    set(labels ${folder})
+    set(label "gui/${folder}")
     if(NOT "Widgets" IN_LIST qt)
-        list(APPEND labels core)
+        set(label "core/${folder}")
         add_dependencies(core_tests ${program})
     endif()
     add_dependencies(all_tests ${program})
     gtest_discover_tests(${program} TEST_PREFIX "${folder}:" DISCOVERY_TIMEOUT 60
-        PROPERTIES LABELS "${labels}" TIMEOUT 300
-                   ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=/tmp")
+        PROPERTIES LABELS "${label}" TIMEOUT 300
+                   ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
 
 function(zel_add_program)

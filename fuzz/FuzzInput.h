@@ -1,9 +1,8 @@
 // The shape of a fuzz input: one byte of options, then the file.
 #pragma once
+#include "Qvx2Parser/Qvx2Reader.h"
 #include <cstdint>
 #include <vector>
-
-#include "Qvx2Parser/Qvx2Reader.h"
 
 // A reader on the input; null for one that is too short. The first byte's lowest bit chooses
 // between a plain call and the program's own options.

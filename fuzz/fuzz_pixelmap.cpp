@@ -1,7 +1,7 @@
 // The frame map: it must end, and every row must lie in the file.
-#include <cstdlib>
-
 #include "FuzzInput.h"
+
+#include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

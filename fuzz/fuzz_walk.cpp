@@ -1,7 +1,7 @@
 // The walk in all five modes, validation, and what the file says of itself.
-#include <cstdlib>
-
 #include "FuzzInput.h"
+
+#include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

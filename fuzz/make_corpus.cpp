@@ -1,9 +1,9 @@
 // Writes the seed corpus of the fuzzers into a folder: one small file of each form that the reader
 // knows, each with both option bytes in front.
+#include "fixtures/DicomBuilder.h"
+
 #include <cstdio>
 #include <fstream>
-
-#include "fixtures/DicomBuilder.h"
 
 namespace {
 

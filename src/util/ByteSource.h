@@ -49,9 +49,9 @@ private:
 // Small reads are served from one window that grows from 4 to 64 KiB while they go on.
 class FileSource final : public ByteSource {
 public:
-    // The descriptor stays open for the first use, which follows soon as a rule. Answers kQvxFileNotFound for
-    // an empty path or one with a NUL in it, kQvxNotOfKind for something that is no regular file
-    // or is empty, an errno when it can't be opened.
+    // The descriptor stays open for the first use, which follows soon as a rule. Answers
+    // kQvxFileNotFound for an empty path or one with a NUL in it, kQvxNotOfKind for something that
+    // is no regular file or is empty, an errno when it can't be opened.
     [[nodiscard]] static QvxStatus Open(const std::string& path,
                                         std::unique_ptr<FileSource>* source);
     ~FileSource() override;

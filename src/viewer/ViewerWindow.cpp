@@ -70,7 +70,6 @@ ViewerWindow::ViewerWindow(FrameListDelegate* delegate)
       _window(addStatusLabel(false))
 {
     _frame->setToolTip(Words("Frame shown, and how many there are"));
-    _window->setToolTip(Words("Window width and level of this frame"));
     _view->setAccessibleName(Words("Picture"));
     // The bar is there from the start when there will be more, so that no picture has to move.
     _view->setVerticalScrollBarPolicy(delegate->allHeadersRead() ? Qt::ScrollBarAsNeeded
@@ -159,10 +158,23 @@ void ViewerWindow::updateStatus()
     if (!_delegate->allHeadersRead())
         frame += QChar(0x2026);  // still counting
     _frame->setText(frame);
-    _window->setVisible(caption.hasWindow);
-    _window->setText(
-        Words("Window %1, level %2").arg(NumberText(caption.width), NumberText(caption.level)));
-    _view->setAccessibleDescription(_file->accessibleName() + QStringLiteral(", ") + frame);
+    setWindowText(caption);
+    _view->setAccessibleDescription(
+        QStringList{_file->accessibleName(), frame, _window->text()}.join(QStringLiteral(", ")));
+}
+
+void ViewerWindow::setWindowText(const FrameListDelegate::Caption& caption)
+{
+    QString text;
+    if (caption.failed)
+        text = Words("This frame can't be shown");
+    else if (caption.hasWindow)
+        text =
+            Words("Window %1, level %2").arg(NumberText(caption.width), NumberText(caption.level));
+    _window->setText(text);
+    _window->setVisible(!text.isEmpty());
+    _window->setToolTip(caption.hasWindow ? Words("Window width and level of this frame")
+                                          : QString());
 }
 
 void ViewerWindow::setFileText(const FrameListDelegate::Caption& caption)

@@ -29,6 +29,7 @@ private:
     void readMoreHeaders();
     void updateStatus();
     void setFileText(const FrameListDelegate::Caption& caption);
+    void setWindowText(const FrameListDelegate::Caption& caption);
     void saveSnapshot();
 
     FrameListDelegate* _delegate;

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLocale>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -20,17 +21,20 @@ namespace {
 // How long the first readable file may be looked for before there is a window.
 constexpr std::chrono::milliseconds kBeforeWindow{100};
 
-// Name of what was opened, for the title bar.
-QString TitleFor(const std::string& path)
+// Names of what was opened, for the title bar.
+QString TitleFor(const std::vector<std::string>& paths)
 {
     std::error_code error;
-    std::filesystem::path full = std::filesystem::absolute(path, error).lexically_normal();
+    std::filesystem::path full = std::filesystem::absolute(paths.front(), error).lexically_normal();
     if (!full.has_filename())  // it ended in a slash
         full = full.parent_path();
-    const auto& name = full.has_filename() ? full.filename() : full;
+    const auto& last = full.has_filename() ? full.filename() : full;
+    QString name = QString::fromStdString(EscapedText(last.native()));
+    if (paths.size() > 1)
+        name = QCoreApplication::translate("Viewer", "%1 and %2 more")
+                   .arg(name, QLocale().toString(qulonglong{paths.size() - 1}));
     // Qt takes a lone "[*]" for the place of its mark for changed documents.
-    return QString::fromStdString(EscapedText(name.native()))
-        .replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    return name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
 
 // Qt would abort.
@@ -40,10 +44,10 @@ bool HasDisplay()
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-int ShowWindow(FrameListDelegate* delegate, const std::string& firstPath)
+int ShowWindow(FrameListDelegate* delegate, const std::vector<std::string>& paths)
 {
     ViewerWindow window(delegate);
-    window.setWindowTitle(TitleFor(firstPath));
+    window.setWindowTitle(TitleFor(paths));
     if (qEnvironmentVariableIsSet("ZELORA_SNAPSHOT"))
         window.saveSnapshotTo(QFile::decodeName(qgetenv("ZELORA_SNAPSHOT")));
     window.show();
@@ -78,5 +82,5 @@ int main(int argc, char** argv)
     QApplication application(programName, argv);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Zelora Viewer"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.zelora.Viewer"));
-    return ShowWindow(&delegate, paths.front());
+    return ShowWindow(&delegate, paths);
 }
