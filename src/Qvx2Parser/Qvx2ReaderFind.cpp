@@ -106,6 +106,16 @@ QvxStatus FindAlone(QvxParserRec* reader, QvxElementTag tag, QvxElementRef* foun
     return kQvxOK;
 }
 
+// An item of encapsulated pixels holds bytes, no elements.
+bool IsFragment(const ExtraHeaderDataRec& state, const DicomHeaderDataStruct& element)
+{
+    const auto isPixelData = [&state](QvxIndex index) {
+        return index != 0 && state.fArena.At(index).Tag() == kTagPixelData;
+    };
+    return element.VR() == kVRIndexItem && element.fParent != 0 &&
+           (isPixelData(element.fParent) || isPixelData(state.fArena.At(element.fParent).fParent));
+}
+
 }  // namespace
 
 QvxElementRef QvxRefOf(const QvxParserRec& reader, QvxIndex index)
@@ -179,9 +189,7 @@ QvxStatus QvxChildrenOf(QvxParserRec* reader, QvxIndex parent, int firstLevel, Q
     if (!mayHave)
         return kQvxNotASequence;
     QvxStatus status = kQvxOK;
-    const bool isFrame = seen.VR() == kVRIndexItem && seen.fParent == state.fPixelElement &&
-                         state.fPixelElement != 0;
-    if (!isFrame && (!seen.fRead || (seen.fContent == 0 && seen.fLength != 0))) {
+    if (!IsFragment(state, seen) && (!seen.fRead || (seen.fContent == 0 && seen.fLength != 0))) {
         const ByteSourceUse use(state.fDataRef);
         const ReadAheadScope ahead(state);
         state.fMode = QvxParseMode::Lazy;

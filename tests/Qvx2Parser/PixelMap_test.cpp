@@ -224,6 +224,12 @@ TEST(PixelMap, pixels_of_an_icon_leave_the_frames_alone)
         const QvxReaderPtr reader = OpenFile(file.Bytes());
         const auto item = Find(reader, 0xFFFE, 0xE000, Find(reader, 0x0009, 0x1110));
         EXPECT_NE(Find(reader, 0x7FE0, 0x0010, item), QvxElementRef::None);
+        const auto pixels = Find(reader, 0x7FE0, 0x0010, item);
+        QvxElementRefArray inside;
+        EXPECT_EQ(
+            Qvx2Reader_GetElementRefs(reader.get(), Find(reader, 0xFFFE, 0xE000, pixels), &inside),
+            kQvxOK);
+        EXPECT_TRUE(QvxRefsOf(inside).empty()) << "a fragment holds bytes, no elements";
         EXPECT_EQ(FragmentCounts(reader), std::vector<std::uint32_t>{1});
         EXPECT_EQ(TextOf(reader, 0x0028, 0x0010), "8");
     }
