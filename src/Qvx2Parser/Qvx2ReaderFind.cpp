@@ -308,14 +308,8 @@ QvxStatus Qvx2Reader_GetElementRef(QvxParserRec* reader, QvxElementRef parent, Q
         return kQvxNoDataRef;
     if (parent != QvxElementRef::None || reader->fWalked)
         return Qvx2Reader_FindElement(reader, parent, tag, found);
-    if (!reader->fState) {
-        QvxStatus error = kQvxOK;
-        reader->fState =
-            SetupNewExtraHeaderDataStruct(reader->fCallbacks, reader->fStream.get(),
-                                          reader->fMemoryEnv, reader->fOptions, &error);
-        if (!reader->fState)
-            return error;
-    }
+    if (const QvxStatus status = QvxEnsureState(reader))
+        return status;
     return FindAlone(reader, tag, found);
 }
 

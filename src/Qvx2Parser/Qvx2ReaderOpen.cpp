@@ -228,6 +228,16 @@ std::string_view QvxTransferSyntaxUID(std::uint32_t index)
     return index < kUIDs.size() ? std::string_view(kUIDs[index]) : std::string_view();
 }
 
+QvxStatus QvxEnsureState(QvxParserRec* reader)
+{
+    if (reader->fState)
+        return kQvxOK;
+    QvxStatus error = kQvxOK;
+    reader->fState = SetupNewExtraHeaderDataStruct(reader->fCallbacks, reader->fStream.get(),
+                                                   reader->fMemoryEnv, reader->fOptions, &error);
+    return error;
+}
+
 QvxStatus Qvx2Reader_GetFileMetaInformation(QvxParserRec* reader, std::uint32_t selector,
                                             std::uint32_t* value)
 {
@@ -235,14 +245,8 @@ QvxStatus Qvx2Reader_GetFileMetaInformation(QvxParserRec* reader, std::uint32_t 
         return kQvxBadArgument;
     if (!reader->fStream)
         return kQvxNoDataRef;
-    if (!reader->fState) {
-        QvxStatus error = kQvxOK;
-        reader->fState =
-            SetupNewExtraHeaderDataStruct(reader->fCallbacks, reader->fStream.get(),
-                                          reader->fMemoryEnv, reader->fOptions, &error);
-        if (!reader->fState)
-            return error;
-    }
+    if (const QvxStatus status = QvxEnsureState(reader))
+        return status;
     QvxStatus status = kQvxOK;
     if (selector == kMetaTransferSyntax && reader->fState->fTransferSyntax == kUnknownState)
         status = ResolveTransferSyntax(reader);

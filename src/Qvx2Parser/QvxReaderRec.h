@@ -39,6 +39,8 @@ struct QvxParserRec {
 [[nodiscard]] QvxElementRef QvxRefOf(const QvxParserRec& reader, QvxIndex index);
 // Gives the reader a new range of references: those handed out before are stale.
 void QvxRenewSalt(QvxParserRec* reader);
+// A state, for questions about a file that has not been walked.
+[[nodiscard]] QvxStatus QvxEnsureState(QvxParserRec* reader);
 // Reads the element's own value, or walks into it, unless that was done.
 [[nodiscard]] QvxStatus QvxEnsureValue(QvxParserRec* reader, QvxIndex element);
 // Head of the children of `parent` (0: the top level). Reads them if need be; on a failure `head`

@@ -14,6 +14,9 @@ TEST(Reader, bad_paths_have_their_codes)
     EXPECT_EQ(Qvx2Parser_Open(&reader, std::string(1026, 'x').c_str()), kQvxFileNotFound);
     EXPECT_EQ(Qvx2Parser_Open(&reader, folder.Path().c_str()), kQvxNotOfKind);
     EXPECT_EQ(Qvx2Parser_Open(&reader, "/dev/null"), kQvxNotOfKind);
+    const std::string large = folder.WriteFile("large", "sparse");
+    std::filesystem::resize_file(large, UINT32_MAX);
+    EXPECT_EQ(Qvx2Parser_Open(&reader, large.c_str()), kQvxMalformed) << "32-bit offsets end here";
     EXPECT_EQ(reader, nullptr);
     ASSERT_EQ(Qvx2Reader_OpenBase(&reader), kQvxOK);
     EXPECT_EQ(Qvx2Reader_SetInputFileURL(reader.get(), nullptr), kQvxNoDataRef);
