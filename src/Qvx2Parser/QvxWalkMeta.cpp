@@ -28,10 +28,14 @@ QvxStatus ReadMetaElement(std::uint32_t* offset, ExtraHeaderDataRec& state,
     }
     if (const QvxStatus status = WalkNumber(state, offset, &header.fTag.element, 0))
         return status;
-    header.fDictIndex = PositionInDictionary(header.fTag.group, header.fTag.element);
-    if (header.fDictIndex >= 0 && ++state.fDictHits >= 5 && state.fMode == QvxParseMode::Validate) {
-        *ends = true;
-        return kQvxOK;
+    header.fDictIndex = kDictIndexOpen;
+    if (explicitFlag == 0 || state.fDictHits < 5) {
+        header.fDictIndex = PositionInDictionary(header.fTag.group, header.fTag.element);
+        state.fDictHits += header.fDictIndex >= 0 ? 1 : 0;
+        if (state.fDictHits >= 5 && state.fMode == QvxParseMode::Validate) {
+            *ends = true;
+            return kQvxOK;
+        }
     }
     if (const QvxStatus status = GetVRandLength(offset, state, header.fTag, header.fDictIndex,
                                                 explicitFlag, 0, &header.fVR, &header.fLength))
