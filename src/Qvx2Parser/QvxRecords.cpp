@@ -2,20 +2,13 @@
 
 #include <algorithm>
 #include <new>
-#include <utility>
 
 namespace {
 
-// The block in which walks of this thread grow their list. Growing one anew for each file would
-// cost more than the walk.
-constexpr std::size_t kLargestSpare = 32 * 1024;  // elements: 1.25 MiB
-thread_local std::vector<DicomHeaderDataStruct> tSpareElements;
-
-void GiveBack(std::vector<DicomHeaderDataStruct>&& block)
-{
-    if (block.capacity() > tSpareElements.capacity() && block.capacity() <= kLargestSpare)
-        tSpareElements = std::move(block);
-}
+// Elements of this thread's last walk: the files of a series have one size of header, and a list
+// that begins with the right room is neither grown nor copied.
+constexpr std::size_t kLargestGuess = 4096;
+thread_local std::size_t tLastCount = 128;
 
 }  // namespace
 
@@ -25,13 +18,11 @@ ExtraHeaderDataRec::~ExtraHeaderDataRec()
         fFrameList = std::move(fFrameList->fNext);
 }
 
-QvxArena::QvxArena() : fElements(std::move(tSpareElements))
+QvxArena::QvxArena()
 {
-    fElements.clear();
+    fElements.reserve(tLastCount);
     fElements.emplace_back();
 }
-
-QvxArena::~QvxArena() { GiveBack(std::move(fElements)); }
 
 bool QvxArena::Grow()
 {
@@ -69,12 +60,12 @@ std::uint32_t QvxArena::NewBlock(std::uint32_t size)
 
 void QvxArena::Trim()
 {
-    if (fElements.size() == fElements.capacity())
+    const std::size_t count = fElements.size();
+    tLastCount = std::min(count + 2, kLargestGuess);
+    if (fElements.capacity() <= count + count / 16 + 4)
         return;
     try {
-        std::vector<DicomHeaderDataStruct> kept(fElements.begin(), fElements.end());
-        std::swap(kept, fElements);
-        GiveBack(std::move(kept));
+        fElements.shrink_to_fit();
     } catch (const std::bad_alloc&) {
         return;  // what is set aside stays
     }

@@ -55,7 +55,6 @@ static_assert(sizeof(DicomHeaderDataStruct) == 40);
 class QvxArena {
 public:
     QvxArena();
-    ~QvxArena();
     QvxArena(const QvxArena&) = delete;
     QvxArena& operator=(const QvxArena&) = delete;
     [[nodiscard]] DicomHeaderDataStruct& At(QvxIndex index) { return fElements[index]; }
@@ -77,7 +76,7 @@ public:
     // A block for a value of `size` bytes and a terminator; 0 when memory ran out.
     [[nodiscard]] std::uint32_t NewBlock(std::uint32_t size);
     [[nodiscard]] std::byte* Block(std::uint32_t number) { return fBlocks[number - 1].get(); }
-    // Keeps what is needed in a block of just that size.
+    // Gives back room that was set aside and not needed.
     void Trim();
 
 private:

@@ -131,7 +131,7 @@ QvxStatus FileSource::ReadAt(std::uint64_t offset, std::span<std::byte> dest)
         const std::uint64_t windowEnd = fWindowStart + fWindowFilled;
         const bool follows =
             fWindowFilled > 0 && offset >= fWindowStart && offset < windowEnd + kFirstWindow;
-        fNextWindow = follows ? std::min(fNextWindow * 2, kLargestWindow) : kFirstWindow;
+        fNextWindow = follows ? std::min(fNextWindow * 4, kLargestWindow) : kFirstWindow;
         // A window that begins the file begins at its start: one page for most headers.
         const std::uint64_t start = offset + dest.size() <= kFirstWindow ? 0 : offset;
         const auto fill =
