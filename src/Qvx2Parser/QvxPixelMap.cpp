@@ -225,13 +225,18 @@ QvxIndex MapEncapsulated(std::uint32_t* offset, ExtraHeaderDataRec& state, int l
     else
         state.fImageForm = kImageFormEncapsulated;
     state.fOffsetTableOffset = *offset;
-    const bool hasTable = length != 0 && length != kUndefinedLength;
+    bool hasTable = length != 0 && length != kUndefinedLength;
+    if (hasTable && length > 4 && state.fNominalFrames == 1 && state.Wants(kWalkOneFrameTakesAll)) {
+        *offset = AdvancedOffset(*offset, length);  // a table of fragments, not of frames
+        hasTable = false;
+    }
     if (hasTable)
         state.fNominalFrames = length / 4;
     if (!MapsFrames(state) && state.fNominalFrames != 0)
         return 0;
     const QvxIndex table =
-        NewItem(state, kVRIndexItem, *offset - kItemHeader, *offset, hasTable ? length : 0);
+        NewItem(state, kVRIndexItem, state.fOffsetTableOffset - kItemHeader,
+                state.fOffsetTableOffset, length == kUndefinedLength ? 0 : length);
     if (!table) {
         *error = kQvxOutOfMemory;
         return 0;
