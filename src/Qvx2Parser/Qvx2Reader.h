@@ -34,7 +34,8 @@ inline constexpr std::size_t kMaxPathBytes = 1026;  // a path and its terminator
 // offsets, an errno when it can't be opened.
 [[nodiscard]] QvxStatus Qvx2Reader_SetInputFileURL(QvxParserRec* reader, const char* path,
                                                    std::uint32_t options = 0);
-// Both of the above. Nothing is read yet. kQvxBadArgument without a path.
+// Both of the above. Nothing is read yet; the descriptor stays open until the first use ends.
+// kQvxBadArgument without a path.
 [[nodiscard]] QvxStatus Qvx2Parser_Open(QvxReaderPtr* reader, const char* path,
                                         std::uint32_t options = 0);
 // The same on bytes in memory.

@@ -28,7 +28,7 @@ void DropWalk(QvxParserRec* reader)
     QvxRenewSalt(reader);
 }
 
-// A tag looked for by mode 4, without walking the file.
+// (0028,0103), which is signed or not, asked of a file that may not have been walked.
 QvxStatus ResolvePixelRepresentation(QvxParserRec* reader)
 {
     QvxElementRef found{};

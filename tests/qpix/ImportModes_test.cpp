@@ -1,7 +1,9 @@
 // How hard a source looks at a file, and when it stops being valid.
 #include "qpix/TestFiles.h"
 #include "qpix/zelImageSource.h"
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <iterator>
 
 namespace {
 
@@ -54,6 +56,25 @@ TEST_F(ImportModes, decide_what_fails_and_when)
             EXPECT_EQ(works, parserFirst ? row.parser : row.importer);
             EXPECT_EQ(source.IsValid(), works);
         }
+    }
+}
+
+TEST_F(ImportModes, leave_no_descriptor_open)
+{
+    const auto count = [] {
+        const std::filesystem::directory_iterator open("/proc/self/fd");
+        return std::distance(begin(open), end(open));
+    };
+    WriteDicom(fFolder, FramesOf2x2(1), "image");
+    const auto before = count();
+    for (const FileImportMode mode :
+         {kImportAny, kImportDicom, kImportDicomNoCheck, kImportDeferCheck, kImportDeferNoCheck}) {
+        SCOPED_TRACE(mode);
+        zelImageSource source;
+        ASSERT_EQ(source.ImportFromFSSpec(FileRef{fFolder.Path("image")}, mode), kQvxOK);
+        EXPECT_EQ(count(), before);
+        ASSERT_NE(source.GetDicomParser(), nullptr);
+        EXPECT_EQ(count(), before);
     }
 }
 

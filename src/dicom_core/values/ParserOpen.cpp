@@ -11,8 +11,9 @@ QvxStatus U_NewDicomParserForFile(const std::string& path, QvxReaderPtr* parser,
         return kQvxFileNotFound;
     if (const QvxStatus status = Qvx2Parser_Open(&opened, path.c_str(), kQvxProgramOptions))
         return status;
+    // Opening leaves the descriptor for the first use; the end of this one closes it.
+    const QvxReaderUse use(opened.get());
     if (validate) {
-        const QvxReaderUse use(opened.get());
         bool valid = false;
         if (const QvxStatus status = Qvx2Reader_ValidateDataRef(opened.get(), &valid))
             return status;
