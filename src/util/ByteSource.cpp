@@ -20,6 +20,14 @@ constexpr std::uint32_t kLargestWindow = 64 * 1024;
 // one each.
 thread_local std::unique_ptr<std::byte[]> tSpareWindow;
 
+// Nanoseconds since 1970. Any time that a file system can claim: it may wrap round.
+std::int64_t ModifiedTime(const struct stat& info)
+{
+    const auto seconds = static_cast<std::uint64_t>(info.st_mtim.tv_sec);
+    return static_cast<std::int64_t>(seconds * 1'000'000'000u +
+                                     static_cast<std::uint64_t>(info.st_mtim.tv_nsec));
+}
+
 std::unique_ptr<std::byte[]> TakeWindow()
 {
     if (tSpareWindow)
@@ -29,7 +37,8 @@ std::unique_ptr<std::byte[]> TakeWindow()
 
 }  // namespace
 
-QvxStatus FileSource::Open(const std::string& path, std::unique_ptr<FileSource>* source)
+QvxStatus FileSource::Open(const std::string& path, std::unique_ptr<FileSource>* source,
+                           const FileIdentity* expected)
 {
     if (path.empty() || path.find('\0') != std::string::npos)
         return kQvxFileNotFound;
@@ -37,6 +46,8 @@ QvxStatus FileSource::Open(const std::string& path, std::unique_ptr<FileSource>*
     if (!opened)
         return kQvxNoMemory;
     opened->fPath = path;
+    if (expected)
+        opened->fIdentity = *expected;
     if (const QvxStatus status = opened->OpenDescriptor())
         return status;
     *source = std::move(opened);
@@ -58,15 +69,13 @@ QvxStatus FileSource::OpenDescriptor()
         ::close(fd);
         return kQvxNotOfKind;
     }
-    const bool first = fSize == 0;
-    const auto size = static_cast<std::uint64_t>(info.st_size);
-    if (!first && (size != fSize || info.st_ino != fInode || info.st_dev != fDevice)) {
+    const FileIdentity now{info.st_dev, info.st_ino, static_cast<std::uint64_t>(info.st_size),
+                           ModifiedTime(info)};
+    if (fIdentity.Known() && fIdentity != now) {
         ::close(fd);
         return kQvxSeekFailed;
     }
-    fSize = size;
-    fInode = info.st_ino;
-    fDevice = info.st_dev;
+    fIdentity = now;
     fDescriptor = fd;
     return kQvxOK;
 }
@@ -112,7 +121,7 @@ QvxStatus FileSource::ReadFile(std::uint64_t offset, std::span<std::byte> dest)
 
 QvxStatus FileSource::ReadAt(std::uint64_t offset, std::span<std::byte> dest)
 {
-    if (!RunFits<std::uint64_t>(offset, dest.size(), fSize))
+    if (!RunFits<std::uint64_t>(offset, dest.size(), Size()))
         return kQvxEndOfFile;
     if (dest.empty())
         return kQvxOK;
@@ -134,8 +143,8 @@ QvxStatus FileSource::ReadAt(std::uint64_t offset, std::span<std::byte> dest)
         fNextWindow = follows ? std::min(fNextWindow * 4, kLargestWindow) : kFirstWindow;
         // A window that begins the file begins at its start: one page for most headers.
         const std::uint64_t start = offset + dest.size() <= kFirstWindow ? 0 : offset;
-        const auto fill =
-            static_cast<std::uint32_t>(std::min<std::uint64_t>(fNextWindow, fSize - start));
+        const auto fill = static_cast<std::uint32_t>(
+            std::min<std::uint64_t>(fNextWindow, fIdentity.fSize - start));
         fWindowFilled = 0;
         if (const QvxStatus status = ReadFile(start, {fWindow.get(), fill}))
             return status;

@@ -1,6 +1,7 @@
 // Where the bytes of one DICOM object come from. Every read of a user's file goes through `ReadAt`.
 // A source is used by one thread at a time.
 #pragma once
+#include "util/FileRef.h"
 #include "util/StatusCodes.h"
 
 #include <cstddef>
@@ -17,6 +18,8 @@ public:
     // source (nothing is promised of `dest` then), kQvxSeekFailed when the file can't be read.
     [[nodiscard]] virtual QvxStatus ReadAt(std::uint64_t offset, std::span<std::byte> dest) = 0;
     [[nodiscard]] virtual std::uint64_t Size() const = 0;
+    // Of the file behind it, as it was when it was opened; not known of other sources.
+    [[nodiscard]] virtual FileIdentity Identity() const { return {}; }
     // Between BeginUse and the matching EndUse a source keeps what makes reads cheap: descriptor
     // and read-ahead. Calls nest. Outside, an idle source holds neither.
     virtual void BeginUse() {}
@@ -45,19 +48,22 @@ private:
 
 // A regular, non-empty file, opened read-only, close-on-exec and non-blocking; pipes, devices and
 // folders are refused without waiting. The descriptor is closed when the source is idle and opened
-// again on demand; a file that has been replaced or has changed size since answers kQvxSeekFailed.
+// again on demand; a file that has been replaced or written to since then answers kQvxSeekFailed.
 // Small reads are served from one window that grows from 4 to 64 KiB while they go on.
 class FileSource final : public ByteSource {
 public:
     // The descriptor stays open for the first use, which follows soon as a rule. Answers
     // kQvxFileNotFound for an empty path or one with a NUL in it, kQvxNotOfKind for something that
-    // is no regular file or is empty, an errno when it can't be opened.
+    // is no regular file or is empty, an errno when it can't be opened. `expected` (null or not
+    // known: any) is the state that the file must still be in, kQvxSeekFailed if it isn't.
     [[nodiscard]] static QvxStatus Open(const std::string& path,
-                                        std::unique_ptr<FileSource>* source);
+                                        std::unique_ptr<FileSource>* source,
+                                        const FileIdentity* expected = nullptr);
     ~FileSource() override;
 
     [[nodiscard]] QvxStatus ReadAt(std::uint64_t offset, std::span<std::byte> dest) override;
-    [[nodiscard]] std::uint64_t Size() const override { return fSize; }
+    [[nodiscard]] std::uint64_t Size() const override { return fIdentity.fSize; }
+    [[nodiscard]] FileIdentity Identity() const override { return fIdentity; }
     void BeginUse() override { ++fUses; }
     void EndUse() override;
     [[nodiscard]] const std::string& Path() const { return fPath; }
@@ -69,8 +75,7 @@ private:
     void CloseDescriptor();
 
     std::string fPath;
-    std::uint64_t fSize = 0;
-    std::uint64_t fInode = 0, fDevice = 0;
+    FileIdentity fIdentity;
     std::uint64_t fWindowStart = 0;
     std::unique_ptr<std::byte[]> fWindow;
     std::uint32_t fWindowFilled = 0;  // bytes of the window that hold data

@@ -44,6 +44,14 @@ constexpr auto kWords = std::to_array<StatusWords>({
     { kQvxOutOfMemory,     "not enough memory" },
     { kQvxNegativeSize,    "negative size" },
     { kQvxNoImporter,      "no importer" },
+    { kZelDiscOpenFailed,       "the disc gave no image" },
+    { kZelNoPatientInFile,      "the file gave no image" },
+    { kZelNoPatientInFolder,    "no DICOM file in the folder" },
+    { kZelNoPatientInDirectory, "the DICOMDIR led to no image" },
+    { kZelRecentFailed,         "the recent document can't be opened" },
+    { kZelCopyErrors,           "too many errors in one copy" },
+    { kZelCopyTargetExists,     "the copy's target exists" },
+    { kZelCopyFailed,           "the copy failed" },
 });
 // clang-format on
 
@@ -51,9 +59,9 @@ constexpr auto kWords = std::to_array<StatusWords>({
 
 std::string_view StatusText(QvxStatus status)
 {
-    if (status > 0)
-        return std::strerror(status);
     const auto row = std::find_if(kWords.begin(), kWords.end(),
                                   [status](const StatusWords& w) { return w.fStatus == status; });
-    return row != kWords.end() ? row->fText : "unknown error";
+    if (row != kWords.end())
+        return row->fText;
+    return status > 0 ? std::string_view(std::strerror(status)) : "unknown error";
 }

@@ -44,6 +44,16 @@ inline constexpr QvxStatus kQvxNegativeSize = -41004;
 inline constexpr QvxStatus kQvxImporterValid = static_cast<QvxStatus>(0x80008002);
 inline constexpr QvxStatus kQvxNoImporter = static_cast<QvxStatus>(0x80008001);
 
+// Codes of opening and of copies. The first is also an errno, which no open answers with.
+inline constexpr QvxStatus kZelDiscOpenFailed = 31;
+inline constexpr QvxStatus kZelNoPatientInFile = 20016;
+inline constexpr QvxStatus kZelNoPatientInFolder = 20017;
+inline constexpr QvxStatus kZelNoPatientInDirectory = 20018;  // of a DICOMDIR
+inline constexpr QvxStatus kZelRecentFailed = 20019;
+inline constexpr QvxStatus kZelCopyErrors = 20020;        // too many in one copy
+inline constexpr QvxStatus kZelCopyTargetExists = 20021;  // handled, never reported
+inline constexpr QvxStatus kZelCopyFailed = 20022;        // for no known reason
+
 // What a code means in a few plain words; "unknown error" for a code that is not above, the
 // system's words for a positive one (an errno).
 [[nodiscard]] std::string_view StatusText(QvxStatus status);

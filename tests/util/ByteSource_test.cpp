@@ -3,10 +3,12 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -79,15 +81,40 @@ TEST_F(FileSourceTest, reads_the_files_bytes_in_any_order_in_use_and_idle)
     EXPECT_EQ(source->ReadAt(UINT64_MAX, two), kQvxEndOfFile);
 }
 
-TEST_F(FileSourceTest, an_idle_source_notices_that_its_file_was_replaced)
+TEST_F(FileSourceTest, an_idle_source_notices_that_its_file_is_another)
 {
-    const std::string path = Write("data", "0123456789");
-    std::unique_ptr<FileSource> source;
-    ASSERT_EQ(FileSource::Open(path, &source), kQvxOK);
-    {
-        const ByteSourceUse use(source.get());
+    const auto later = [](const fs::path& path) {
+        fs::last_write_time(path, fs::last_write_time(path) + std::chrono::nanoseconds(1000));
+    };
+    struct Row {
+        const char* change;
+        std::function<void(const std::string&)> make;
+        QvxStatus status;
+    };
+    const Row rows[] = {
+        {"nothing", [](const std::string&) {}, kQvxOK},
+        {"replaced",
+         [&](const std::string& path) { fs::rename(Write("other", "abcdefghij"), path); },
+         kQvxSeekFailed},
+        {"longer", [](const std::string& path) { std::ofstream(path, std::ios::app) << 'x'; },
+         kQvxSeekFailed},
+        {"written to", later, kQvxSeekFailed},
+        {"gone", [](const std::string& path) { fs::remove(path); }, kQvxSeekFailed},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.change);
+        const std::string path = Write("data", "0123456789");
+        std::unique_ptr<FileSource> source, again;
+        ASSERT_EQ(FileSource::Open(path, &source), kQvxOK);
+        const FileIdentity identity = source->Identity();
+        {
+            const ByteSourceUse use(source.get());
+        }
+        row.make(path);
+        std::array<std::byte, 2> two;
+        EXPECT_EQ(source->ReadAt(0, two), row.status);
+        const bool gone = !fs::exists(path);
+        EXPECT_EQ(FileSource::Open(path, &again, &identity), gone ? ENOENT : row.status);
+        EXPECT_EQ(again != nullptr, row.status == kQvxOK);
     }
-    fs::rename(Write("other", "abcdefghij"), path);
-    std::array<std::byte, 2> two;
-    EXPECT_EQ(source->ReadAt(0, two), kQvxSeekFailed);
 }
