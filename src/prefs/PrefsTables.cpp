@@ -1,0 +1,67 @@
+#include "prefs/PrefsTables.h"
+
+namespace {
+
+constexpr std::size_t kEntries = 256;
+
+struct LoadedTable {
+    ZELCLUT fCLUT;
+    ZELColorRamp fRamp{};
+};
+
+std::vector<LoadedTable>& Tables()
+{
+    static std::vector<LoadedTable> tables;
+    return tables;
+}
+
+ZELColorRamp RampOf(const ColorTable& table)
+{
+    ZELColorRamp ramp{};
+    for (std::size_t i = 0; i < kEntries; ++i) {
+        const ColorSpec& spec = table.fEntries[i];
+        const auto high = [](std::uint16_t part) { return static_cast<std::uint32_t>(part >> 8); };
+        ramp[i] = 0xFF000000U | high(spec.red) << 16 | high(spec.green) << 8 | high(spec.blue);
+    }
+    return ramp;
+}
+
+const LoadedTable* TableOf(int number)
+{
+    const std::vector<LoadedTable>& tables = Tables();
+    if (number < 1 || number > prefs_GetNumberOfCLUTs())
+        return nullptr;
+    return &tables[static_cast<std::size_t>(number) - 1];
+}
+
+}  // namespace
+
+void prefs_SetCLUTs(std::vector<ZELCLUT> tables)
+{
+    Tables().clear();
+    for (ZELCLUT& clut : tables) {
+        clut.fTable.fEntries.resize(kEntries);
+        const ZELColorRamp ramp = RampOf(clut.fTable);
+        Tables().push_back({std::move(clut), ramp});
+    }
+}
+
+int prefs_GetNumberOfCLUTs() { return static_cast<int>(Tables().size()); }
+
+const ColorTable* prefs_GetColorSpecs(int number)
+{
+    const LoadedTable* table = TableOf(number);
+    return table ? &table->fCLUT.fTable : nullptr;
+}
+
+const ZELColorRamp* prefs_GetColorRamp(int number)
+{
+    const LoadedTable* table = TableOf(number);
+    return table ? &table->fRamp : nullptr;
+}
+
+std::string prefs_GetColorRampName(int number)
+{
+    const LoadedTable* table = TableOf(number);
+    return table ? table->fCLUT.fName : "unnamed";
+}
