@@ -4,6 +4,8 @@
 // references belong to one thread at a time. Statuses are those of util/StatusCodes.h; a result is
 // set only on kQvxOK unless said otherwise, and result handles belong to the caller.
 #pragma once
+#include "util/FileRef.h"
+
 #include "Qvx2Parser/QvxDictionary.h"
 #include "Qvx2Parser/QvxElementTag.h"
 #include "Qvx2Parser/QvxHost.h"
@@ -31,13 +33,16 @@ inline constexpr std::size_t kMaxPathBytes = 1026;  // a path and its terminator
 // `path` is bytes, as the file system has them. `options` are walkFlags: 0, or kQvxProgramOptions.
 // kQvxBadArgument without a reader, kQvxNoDataRef without a path, kQvxFileNotFound for one too
 // long, kQvxNotOfKind for what is no regular file, kQvxMalformed for a file too large for 32-bit
-// offsets, an errno when it can't be opened.
+// offsets, an errno when it can't be opened. `expected`, if given and known, is what
+// Qvx2Reader_FileIdentity told earlier: kQvxSeekFailed for a file that is no longer the same.
 [[nodiscard]] QvxStatus Qvx2Reader_SetInputFileURL(QvxParserRec* reader, const char* path,
-                                                   std::uint32_t options = 0);
+                                                   std::uint32_t options = 0,
+                                                   const FileIdentity* expected = nullptr);
 // Both of the above. Nothing is read yet; the descriptor stays open until the first use ends.
 // kQvxBadArgument without a path.
 [[nodiscard]] QvxStatus Qvx2Parser_Open(QvxReaderPtr* reader, const char* path,
-                                        std::uint32_t options = 0);
+                                        std::uint32_t options = 0,
+                                        const FileIdentity* expected = nullptr);
 // The same on bytes in memory.
 [[nodiscard]] QvxStatus Qvx2Parser_OpenBytes(QvxReaderPtr* reader, std::vector<std::byte> bytes,
                                              std::uint32_t options = 0);
@@ -72,6 +77,8 @@ private:
 // The state of the walk, for what reads directories and rewrites files; null before any walk.
 [[nodiscard]] const ExtraHeaderDataRec* Qvx2Reader_State(const QvxParserRec* reader);
 [[nodiscard]] std::uint32_t Qvx2Reader_FileSize(const QvxParserRec* reader);
+// Which state of which file the reader has opened; unknown for bytes in memory, and for null.
+[[nodiscard]] FileIdentity Qvx2Reader_FileIdentity(const QvxParserRec* reader);
 
 // ---- find elements ----------------------------------------------------------------------------
 

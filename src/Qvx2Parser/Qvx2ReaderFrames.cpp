@@ -15,6 +15,21 @@ QvxStatus MapFrames(QvxParserRec* reader)
 
 }  // namespace
 
+QvxStatus QvxNewFrameMap(const QvxParserRec& reader, std::span<const QvxFrameMapRecord> rows,
+                         QvxHandle* map)
+{
+    const std::size_t bytes = rows.size_bytes();
+    QvxHandle made = reader.fCallbacks->fNewHandle(static_cast<std::int64_t>(bytes + 4));
+    if (made.IsNull())
+        return kQvxNoMemory;
+    const auto count = static_cast<std::uint32_t>(rows.size());
+    std::memcpy(made.Data(), &count, sizeof count);
+    if (bytes > 0)
+        std::memcpy(made.Data() + 4, rows.data(), bytes);
+    *map = std::move(made);
+    return kQvxOK;
+}
+
 QvxStatus Qvx2Reader_GetImageOffsetsAndSizes(QvxParserRec* reader, QvxHandle* map)
 {
     if (!reader || !map)
@@ -30,16 +45,7 @@ QvxStatus Qvx2Reader_GetImageOffsetsAndSizes(QvxParserRec* reader, QvxHandle* ma
             return status;
         rows = state.fFrameMap;
     }
-    const std::size_t bytes = rows.size_bytes();
-    QvxHandle made = reader->fCallbacks->fNewHandle(static_cast<std::int64_t>(bytes + 4));
-    if (made.IsNull())
-        return kQvxNoMemory;
-    const auto count = static_cast<std::uint32_t>(rows.size());
-    std::memcpy(made.Data(), &count, sizeof count);
-    if (bytes > 0)
-        std::memcpy(made.Data() + 4, rows.data(), bytes);
-    *map = std::move(made);
-    return kQvxOK;
+    return QvxNewFrameMap(*reader, rows, map);
 }
 
 std::span<const QvxFrameMapRecord> QvxFrameMapOf(const QvxHandle& map)

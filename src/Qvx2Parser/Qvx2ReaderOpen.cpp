@@ -23,6 +23,7 @@ void DropWalk(QvxParserRec* reader)
 {
     reader->fSideList.clear();
     reader->fDirectoryRecords = 0;
+    reader->fDirectoryList.clear();
     reader->fState.reset();
     reader->fWalked = false;
     QvxRenewSalt(reader);
@@ -87,7 +88,8 @@ QvxStatus Qvx2Reader_OpenBase(QvxReaderPtr* reader)
     return kQvxOK;
 }
 
-QvxStatus Qvx2Reader_SetInputFileURL(QvxParserRec* reader, const char* path, std::uint32_t options)
+QvxStatus Qvx2Reader_SetInputFileURL(QvxParserRec* reader, const char* path, std::uint32_t options,
+                                     const FileIdentity* expected)
 {
     if (!reader)
         return kQvxBadArgument;
@@ -98,19 +100,20 @@ QvxStatus Qvx2Reader_SetInputFileURL(QvxParserRec* reader, const char* path, std
     if (std::strlen(path) >= kMaxPathBytes)
         return kQvxFileNotFound;
     std::unique_ptr<FileSource> source;
-    if (const QvxStatus status = FileSource::Open(path, &source))
+    if (const QvxStatus status = FileSource::Open(path, &source, expected))
         return status;
     return SetStream(reader, std::move(source), options);
 }
 
-QvxStatus Qvx2Parser_Open(QvxReaderPtr* reader, const char* path, std::uint32_t options)
+QvxStatus Qvx2Parser_Open(QvxReaderPtr* reader, const char* path, std::uint32_t options,
+                          const FileIdentity* expected)
 {
     if (!reader || !path)
         return kQvxBadArgument;
     QvxReaderPtr made;
     if (const QvxStatus status = Qvx2Reader_OpenBase(&made))
         return status;
-    if (const QvxStatus status = Qvx2Reader_SetInputFileURL(made.get(), path, options))
+    if (const QvxStatus status = Qvx2Reader_SetInputFileURL(made.get(), path, options, expected))
         return status;
     *reader = std::move(made);
     return kQvxOK;
@@ -215,6 +218,11 @@ const ExtraHeaderDataRec* Qvx2Reader_State(const QvxParserRec* reader)
 std::uint32_t Qvx2Reader_FileSize(const QvxParserRec* reader)
 {
     return reader ? reader->fFileSize : 0;
+}
+
+FileIdentity Qvx2Reader_FileIdentity(const QvxParserRec* reader)
+{
+    return reader && reader->fStream ? reader->fStream->Identity() : FileIdentity{};
 }
 
 std::string_view QvxTransferSyntaxUID(std::uint32_t index)

@@ -16,6 +16,12 @@ struct QvxSideElement {
     std::uint32_t fBehind = 0;  // where the search goes on
 };
 
+// A record of a directory, in the order of the file.
+struct QvxDirectoryRecord {
+    QvxIndex fRecord = 0;
+    std::uint32_t fListedBy = 0;  // number of the level that has listed it last
+};
+
 struct QvxParserRec {
     std::uint32_t fSignature = kSignatureReader;
     std::uint32_t fSalt = 0;  // upper bits of this reader's references
@@ -28,9 +34,11 @@ struct QvxParserRec {
     std::uintptr_t fMemoryEnv = 0;
     const QvxHostCallbacks* fCallbacks = nullptr;
     QvxStatePtr fState;
-    bool fWalked = false;                   // the list is there, as far as it goes
-    std::vector<QvxSideElement> fSideList;  // ordered by parent, group, element
-    QvxIndex fDirectoryRecords = 0;         // first child of (0004,1220), once asked for
+    bool fWalked = false;                            // the list is there, as far as it goes
+    std::vector<QvxSideElement> fSideList;           // ordered by parent, group, element
+    QvxIndex fDirectoryRecords = 0;                  // first child of (0004,1220), once asked for
+    std::vector<QvxDirectoryRecord> fDirectoryList;  // all its items, from then on
+    std::uint32_t fDirectoryLevels = 0;              // levels listed so far
 };
 
 // The index that a reference names, 0 with kQvxBadChain for one that isn't this reader's.
@@ -47,3 +55,6 @@ void QvxRenewSalt(QvxParserRec* reader);
 // has those that were read.
 [[nodiscard]] QvxStatus QvxChildrenOf(QvxParserRec* reader, QvxIndex parent, int firstLevel,
                                       QvxIndex* head);
+// A handle with a count and these rows.
+[[nodiscard]] QvxStatus QvxNewFrameMap(const QvxParserRec& reader,
+                                       std::span<const QvxFrameMapRecord> rows, QvxHandle* map);

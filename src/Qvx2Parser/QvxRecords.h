@@ -104,11 +104,13 @@ inline constexpr std::uint32_t kWalkImplicitUN = 32;       // UN of undefined le
 inline constexpr std::uint32_t kWalkAllSyntaxes = 64;      // the walk knows all 29 by number
 inline constexpr std::uint32_t kWalkDoubtSyntax = 128;     // the data outweigh the meta group
 inline constexpr std::uint32_t kWalkSubsampled = 256;      // native 4:2:2 has two samples a pixel
+inline constexpr std::uint32_t kWalkKeepCutLevels = 512;   // a level of records ends at a bad link
+inline constexpr std::uint32_t kWalkKnownUN = 1024;        // UN of a known tag has its usual VR
 
 // What every open of the program asks for.
 inline constexpr std::uint32_t kQvxProgramOptions =
     kWalkModernVRs | kWalkJ2KStarts | kWalkOneFrameTakesAll | kWalkInflate | kWalkImplicitUN |
-    kWalkAllSyntaxes | kWalkDoubtSyntax | kWalkSubsampled;
+    kWalkAllSyntaxes | kWalkDoubtSyntax | kWalkSubsampled | kWalkKeepCutLevels | kWalkKnownUN;
 
 inline constexpr std::uint32_t kSOPMediaDirectory = FourCC("UNKO");
 inline constexpr std::uint32_t kSOPManagement1 = FourCC("UNKP");
@@ -172,13 +174,14 @@ struct ExtraHeaderDataRec {
     std::uint32_t fFirstElementOffset = 0, fSearchStart = 0;
     std::uint32_t fWalkFlags = 0;
     std::uint32_t fAnomalies = 0;
-    std::uint32_t fDirOffsets[5] = {};
+    std::uint32_t fDirOffsets[5] = {};  // of the graphics walk, as its fDirLevelEnds below
     std::int32_t fDictHits = 0;
     QvxParseMode fMode = QvxParseMode::Lazy;
     QvxIndex fListHead = 0;  // top-level elements
     QvxIndex fFrameChain = 0;
     QvxIndex fPixelElement = 0;
     bool fItemsAreFlat = false;
+    bool fDirLevelEnds = false;  // a record that is no part of a series ends the walk of records
     bool fInImplicitUN = false;  // inside a UN whose elements are in implicit form
     bool fWasInflated = false;   // offsets are those of the inflated form, not of the file
     std::int16_t fNesting = 0;   // sequences and items being walked; 0 is the top level

@@ -46,6 +46,12 @@ void UpdateIfWatched(QvxIndex element, ExtraHeaderDataRec& state)
         UpdateExtraHeaderData(element, state);
 }
 
+bool MayBeKnownUN(const ExtraHeaderDataRec& state, QvxVRIndex vr, std::uint16_t group)
+{
+    return vr == kVRIndexUN && group % 2 == 0 && state.fExplicitVR == 1 &&
+           state.Wants(kWalkKnownUN);
+}
+
 // The element at `offset`, which must have been read ahead, if it is one of definite length that a
 // lazy walk of a little endian file only jumps over; false for anything else, pixels, markers and
 // faults included: the full form decides on those.
@@ -73,14 +79,29 @@ bool IsJumpedOver(std::uint32_t offset, const std::byte* bytes, const ExtraHeade
             vr = DictionaryVRIndex(row);
         made->fLength = LoadLE<std::uint32_t>(bytes + 4);
     }
-    // Undefined, a fault, or a kind that other elements decide.
-    if (made->fLength > state.fFileSize || vr == kVRIndexU2 || vr == kVRIndexU3)
+    // Undefined, a fault, or a kind that other elements or the dictionary decide.
+    if (made->fLength > state.fFileSize || vr == kVRIndexU2 || vr == kVRIndexU3 ||
+        MayBeKnownUN(state, vr, made->fGroup))
         return false;
     made->fTagOffset = offset;
     made->fValueOffset = offset + header;
     made->fMultiplicity = InitialMultiplicity(vr);
     made->fVR = ByteOfVRIndex(vr);
     return true;
+}
+
+// What an explicit file's UN of definite length stands for: some writers state UN for all they
+// hold. A sequence in UN has its own form (PS3.5 6.2.2), and binary data is the same either way.
+QvxVRIndex KnownVROf(const ExtraHeaderDataRec& state, const QvxElementHeader& header)
+{
+    if (header.fLength == kUndefinedLength || !MayBeKnownUN(state, header.fVR, header.fTag.group))
+        return header.fVR;
+    const std::int32_t row = PositionInDictionary(header.fTag.group, header.fTag.element);
+    const QvxVRIndex known = row >= 0 ? DictionaryVRIndex(row) : kVRIndexUN;
+    constexpr auto bit = [](QvxVRIndex vr) { return std::uint64_t{1} << vr; };
+    constexpr std::uint64_t kStaysUN = bit(kVRIndexBlank) | bit(kVRIndexSQ) | bit(kVRIndexOB) |
+                                       bit(kVRIndexOF) | bit(kVRIndexOW) | bit(kVRIndexO2);
+    return InVRSet(kStaysUN, known) ? kVRIndexUN : known;
 }
 
 // The lazy walk's common case in a few instructions: a run of elements that are only jumped over,
@@ -229,6 +250,14 @@ bool JumpsOverNested(const ExtraHeaderDataRec& state, int workingLevel)
     }
 }
 
+// Is the sequence just entered a directory's (0004,1220), in the mode that jumps among its items?
+bool HoldsRecordsForGraphics(const ExtraHeaderDataRec& state, int workingLevel)
+{
+    return state.fMode == QvxParseMode::Graphics && state.IsDirectory() && workingLevel == 2 &&
+           QvxElementTag{state.fEnclosingGroup, state.fEnclosingElement} ==
+               QvxElementTag{0x0004, 0x1220};
+}
+
 }  // namespace
 
 QvxStatePtr InitExtraHeaderDataRec(const QvxHostCallbacks* callbacks, ByteSource* dataRef,
@@ -341,6 +370,7 @@ QvxIndex Read_DICOM_NextElement_Combined(std::uint32_t* offset, QvxIndex previou
             GetVRandLength(offset, state, header.fTag, header.fDictIndex, state.fExplicitVR,
                            state.fByteOrder, &header.fVR, &header.fLength))
         return failed(status, header.fTagOffset, header.fTag);
+    header.fVR = KnownVROf(state, header);
     std::uint32_t skip = 0;
     if (SkipOverElementQuery(state, header.fTag, *offset, header.fLength, level, header.fVR,
                              &skip)) {
@@ -450,6 +480,7 @@ QvxIndex ParseDICOMHeaderFromOffset(std::uint32_t* offset, std::uint32_t length,
         return 0;
     }
     const std::uint64_t end = std::uint64_t{*offset} + length;
+    const bool holdsRecords = HoldsRecordsForGraphics(state, workingLevel);
     QvxIndex head = 0, previous = 0;
     const std::uint64_t stop = definite && end < state.fFileSize ? end : state.fFileSize;
     while (*offset < state.fFileSize) {
@@ -467,6 +498,10 @@ QvxIndex ParseDICOMHeaderFromOffset(std::uint32_t* offset, std::uint32_t length,
         if (element && element != previous) {
             Link(state, &head, previous, element);
             previous = element;
+            if (holdsRecords && !StepBehindDirectoryRecord(state, element, end, offset)) {
+                *offset = static_cast<std::uint32_t>(stop);
+                break;
+            }
         }
         if (!definite && element && EndsNesting(state[element]))
             break;

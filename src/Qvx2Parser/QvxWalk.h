@@ -78,6 +78,11 @@ QvxIndex FillDICOMHeaderDataStruct_Combined(const QvxElementHeader& header, std:
 // mode. A list that ends with an error stays as far as it got.
 QvxIndex ParseDICOMHeaderFromOffset(std::uint32_t* offset, std::uint32_t length,
                                     ExtraHeaderDataRec& state, int level, QvxStatus* error);
+// Graphics mode, behind `record` of a directory, which the walk has just linked: takes its links
+// and moves the offset on, over records that can have no icon. `end` is where the sequence ends, or
+// at least the file size when it says no length. False when the walk of the records ends here.
+bool StepBehindDirectoryRecord(ExtraHeaderDataRec& state, QvxIndex record, std::uint64_t end,
+                               std::uint32_t* offset);
 // Takes what the walk must know from an element that it has just met.
 void UpdateExtraHeaderData(QvxIndex element, ExtraHeaderDataRec& state);
 

@@ -190,6 +190,23 @@ TEST(Walk, UN_of_undefined_length_is_implicit_unless_it_shows_otherwise)
     }
 }
 
+TEST(Walk, UN_of_a_known_tag_has_the_VR_of_the_dictionary)
+{
+    DicomBuilder file;
+    file.NoPreamble().CommonHeader().Element(0x0018, 0x0015, "CS", "CHEST").StateVR("UN");
+    file.Element(0x0019, 0x1001, "LO", "PRIVATE").StateVR("UN");
+    file.Element(0x0020, 0x0013, "IS", "7").StateVR("UN");
+    file.Element(0x0028, 0x0010, "US", 512).StateVR("UN");
+    const QvxReaderPtr reader = OpenFile(file.Bytes(), kQvxProgramOptions);
+    EXPECT_EQ(TextOf(reader, 0x0018, 0x0015), "CHEST ");
+    EXPECT_EQ(TextOf(reader, 0x0028, 0x0010), "512");
+    QvxVR vr{};
+    ASSERT_EQ(
+        Qvx2Reader_GetElementValueRepresentation(reader.get(), Find(reader, 0x0019, 0x1001), &vr),
+        kQvxOK);
+    EXPECT_EQ(vr, QvxVROfIndex(kVRIndexUN));
+}
+
 TEST(Walk, single_element_mode_jumps_groups_that_it_can_trust)
 {
     for (const std::uint32_t groupLength : {0u, 4u, 0xFFFFFF00u}) {
