@@ -1,18 +1,19 @@
 #include "dicom_core/values/ParserOpen.h"
 
-QvxStatus U_NewDicomParserForFile(const std::string& path, QvxReaderPtr* parser, bool validate)
+namespace {
+
+QvxStatus OpenInUse(const std::string& path, QvxReaderPtr* parser, std::optional<QvxReaderUse>* use,
+                    bool validate, const FileIdentity* expected)
 {
-    if (!parser)
-        return kQvxBadArgument;
-    parser->reset();
-    QvxReaderPtr opened;
     // A path ends at its first NUL for the system: refused rather than opened as another file.
     if (path.find('\0') != std::string::npos)
         return kQvxFileNotFound;
-    if (const QvxStatus status = Qvx2Parser_Open(&opened, path.c_str(), kQvxProgramOptions))
+    QvxReaderPtr opened;
+    if (const QvxStatus status =
+            Qvx2Parser_Open(&opened, path.c_str(), kQvxProgramOptions, expected))
         return status;
     // Opening leaves the descriptor for the first use; the end of this one closes it.
-    const QvxReaderUse use(opened.get());
+    const QvxReaderUse first(opened.get());
     if (validate) {
         bool valid = false;
         if (const QvxStatus status = Qvx2Reader_ValidateDataRef(opened.get(), &valid))
@@ -20,18 +21,41 @@ QvxStatus U_NewDicomParserForFile(const std::string& path, QvxReaderPtr* parser,
         if (!valid)
             return kQvxNotOfKind;
     }
+    use->emplace(opened.get());
     *parser = std::move(opened);
     return kQvxOK;
 }
 
-QvxStatus U_NewDicomParserForFileSpec(const FileRef& file, QvxReaderPtr* parser, bool validate)
+}  // namespace
+
+QvxStatus U_NewDicomParserForFile(const std::string& path, QvxReaderPtr* parser, bool validate,
+                                  const FileIdentity* expected)
 {
     if (!parser)
         return kQvxBadArgument;
     parser->reset();
+    std::optional<QvxReaderUse> use;
+    return OpenInUse(path, parser, &use, validate, expected);
+}
+
+QvxStatus U_NewDicomParserForFileSpec(const FileRef& file, QvxReaderPtr* parser, bool validate,
+                                      const FileIdentity* expected)
+{
+    std::optional<QvxReaderUse> use;
+    return U_NewDicomParserInUse(file, parser, &use, validate, expected);
+}
+
+QvxStatus U_NewDicomParserInUse(const FileRef& file, QvxReaderPtr* parser,
+                                std::optional<QvxReaderUse>* use, bool validate,
+                                const FileIdentity* expected)
+{
+    if (!parser || !use)
+        return kQvxBadArgument;
+    use->reset();
+    parser->reset();
     if (file.Empty())
         return kQvxBadArgument;
-    return U_NewDicomParserForFile(file.fPath, parser, validate);
+    return OpenInUse(file.fPath, parser, use, validate, expected);
 }
 
 QvxStatus Parser_WalkHeader(ParserHandle parser)

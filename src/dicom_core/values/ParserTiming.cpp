@@ -1,12 +1,12 @@
 #include "dicom_core/values/ParserTiming.h"
 
 #include "dicom_core/values/ParserValues.h"
+#include "dicom_core/values/ValueList.h"
+#include "util/ByteOrder.h"
 
-#include "Qvx2Parser/QvxDecimal.h"
 #include <algorithm>
-#include <new>
+#include <array>
 #include <optional>
-#include <string_view>
 
 namespace {
 
@@ -17,8 +17,32 @@ constexpr QvxElementTag kTagFrameTimeVector{0x0018, 0x1065};
 constexpr QvxElementTag kTagFrameDuration{0x0018, 0x1242};
 constexpr QvxElementTag kTagFrameIncrementPointer{0x0028, 0x0009};
 
+constexpr QvxElementTag kTagNumberOfFrames{0x0028, 0x0008};
+constexpr QvxElementTag kTagCineType{0x0018, 0x1244};
+constexpr QvxElementTag kTagRepresentativeFrame{0x0028, 0x6010};
+
 // No file has as many frames; four bytes for each backslash of a hostile one are too many.
-constexpr std::ptrdiff_t kMaxFrameTimes = 1 << 24;
+constexpr std::int32_t kMaxFrameTimes = 1 << 24;
+
+constexpr std::uint32_t kOffsetTableEntry = 4;  // bytes for one frame
+constexpr std::int32_t kNoCineType = -2;
+
+// Bytes of the first item of encapsulated pixels; 0 if there is none. Read from the file: as long
+// as the frames aren't mapped, the reader has no element for the item.
+std::uint32_t OffsetTableSize(ParserHandle parser)
+{
+    const ExtraHeaderDataRec* state = Qvx2Reader_State(parser);
+    std::array<std::byte, 4> length{};
+    if (!state || state->fImageForm != kImageFormEncapsulated ||
+        state->fOffsetTableOffset < length.size() ||
+        Qvx2Reader_ReadData(parser, length.data(),
+                            state->fOffsetTableOffset - std::uint32_t{length.size()},
+                            std::uint32_t{length.size()}))
+        return 0;
+    const auto size = state->fByteOrder == 1 ? LoadBE<std::uint32_t>(length.data())
+                                             : LoadLE<std::uint32_t>(length.data());
+    return size != kUndefinedLength ? size : 0;
+}
 
 // A 16-bit whole number other than 0, or nothing.
 std::optional<float> WholeNumber(ParserHandle parser, QvxElementTag tag)
@@ -29,63 +53,6 @@ std::optional<float> WholeNumber(ParserHandle parser, QvxElementTag tag)
         return std::nullopt;
     const auto cut = static_cast<std::int16_t>(number);
     return cut != 0 ? std::optional<float>(cut) : std::nullopt;
-}
-
-// One pass over the text, so that the cost doesn't grow with the square of the count.
-QvxStatus SplitDecimals(std::string_view text, std::vector<float>* numbers)
-{
-    text = text.substr(0, text.find('\0'));
-    const auto count = std::ranges::count(text, '\\') + 1;
-    if (count > kMaxFrameTimes)
-        return kQvxBadMultiplicity;
-    numbers->reserve(static_cast<std::size_t>(count));
-    for (std::size_t start = 0;;) {
-        const std::size_t end = text.find('\\', start);
-        numbers->push_back(QvxDecimalToFloat(text.substr(start, end - start)));
-        if (end == std::string_view::npos)
-            return kQvxOK;
-        start = end + 1;
-    }
-}
-
-// For a vector that is binary, against the standard: each value is found at once.
-void ReadNumbers(ParserHandle parser, QvxElementRef element, std::int32_t count,
-                 std::vector<float>* numbers)
-{
-    for (std::int32_t index = 1; index <= count; ++index) {
-        QvxElementValue value;
-        float number = 0;
-        std::int32_t whole = 0;
-        if (!Qvx2Reader_GetElementDataAsValue(parser, element, index, &value) &&
-            value.fType == QvxNumericValueType::Float32)
-            number = value.fFloat32;
-        else if (!Parser_GetElementValueAsLong(parser, element, index, &whole))
-            number = static_cast<float>(whole);
-        numbers->push_back(number);
-    }
-}
-
-QvxStatus FillVector(ParserHandle parser, std::vector<float>* vector)
-{
-    QvxElementRef element = QvxElementRef::None;
-    if (const QvxStatus status =
-            Qvx2Reader_FindElement(parser, QvxElementRef::None, kTagFrameTimeVector, &element))
-        return status;
-    QvxElementDataInfo info;
-    if (const QvxStatus status = Qvx2Reader_GetElementDataInfo(parser, element, &info))
-        return status;
-    if (info.fMultiplicity < 1)
-        return kQvxOK;
-    if (info.fVR != QvxVROfIndex(kVRIndexDS)) {
-        ReadNumbers(parser, element, info.fMultiplicity, vector);
-        return kQvxOK;
-    }
-    QvxHandle text;
-    if (const QvxStatus status =
-            Qvx2_ParserGetElementRawData(parser, QvxElementRef::None, kTagFrameTimeVector.group,
-                                         kTagFrameTimeVector.element, &text))
-        return status;
-    return SplitDecimals(text.Text(), vector);
 }
 
 QvxStatus SingleTime(ParserHandle parser, zelFrameTimes* times)
@@ -131,12 +98,11 @@ QvxStatus Parser_GetFrameTimeVector(ParserHandle parser, std::vector<float>* vec
     if (!parser || !vector)
         return kQvxBadArgument;
     vector->clear();
-    try {
-        return FillVector(parser, vector);
-    } catch (const std::bad_alloc&) {
-        vector->clear();
-        return kQvxNoMemory;
-    }
+    QvxElementRef element = QvxElementRef::None;
+    if (const QvxStatus status =
+            Qvx2Reader_FindElement(parser, QvxElementRef::None, kTagFrameTimeVector, &element))
+        return status;
+    return Parser_GetElementValuesAsFloats(parser, element, kMaxFrameTimes, vector);
 }
 
 QvxStatus Parser_GetSingleFrameTime(ParserHandle parser, float* time)
@@ -156,17 +122,25 @@ QvxStatus Parser_GetMultipleTimes(ParserHandle parser, std::vector<float>* vecto
     return kQvxOK;
 }
 
+bool Parser_GetDisplayRateTime(ParserHandle parser, float* time)
+{
+    for (const QvxElementTag rate : {kTagDisplayFrameRate, kTagCineRate})
+        if (const auto perSecond = WholeNumber(parser, rate)) {
+            *time = 1000.0F / *perSecond;
+            return true;
+        }
+    return false;
+}
+
 QvxStatus Parser_GetFrameTimes(ParserHandle parser, zelFrameTimes* times)
 {
     if (!parser || !times)
         return kQvxBadArgument;
     *times = {};
-    for (const QvxElementTag rate : {kTagDisplayFrameRate, kTagCineRate})
-        if (const auto perSecond = WholeNumber(parser, rate)) {
-            times->fCount = 1;
-            times->fSingle = 1000.0F / *perSecond;
-            return kQvxOK;
-        }
+    if (Parser_GetDisplayRateTime(parser, &times->fSingle)) {
+        times->fCount = 1;
+        return kQvxOK;
+    }
     if (const auto duration = WholeNumber(parser, kTagFrameDuration)) {
         times->fCount = 1;
         times->fSingle = *duration;
@@ -178,4 +152,51 @@ QvxStatus Parser_GetFrameTimes(ParserHandle parser, zelFrameTimes* times)
     if (!(singleFirst ? SingleTime(parser, times) : VectorTimes(parser, times)))
         return kQvxOK;
     return singleFirst ? VectorTimes(parser, times) : SingleTime(parser, times);
+}
+
+QvxStatus Parser_GetNumberOfFrames(ParserHandle parser, std::int32_t* count)
+{
+    if (!parser || !count)
+        return kQvxBadArgument;
+    std::int32_t stated = 0;
+    if (!Parser_GetElementValueAsLong(parser, QvxElementRef::None, kTagNumberOfFrames.group,
+                                      kTagNumberOfFrames.element, 1, &stated)) {
+        *count = stated < 0 ? 1 : stated;
+        return kQvxOK;
+    }
+    QvxElementRef pixels = QvxElementRef::None;
+    const QvxStatus status =
+        Qvx2Reader_FindElement(parser, QvxElementRef::None, kTagPixelData, &pixels);
+    if (status == kQvxNoSuchElement) {
+        *count = 0;
+        return kQvxOK;
+    }
+    if (status)
+        return status;
+    const std::uint32_t table = OffsetTableSize(parser);
+    std::uint32_t explicitVR = 0;
+    const bool counts = table > 0 &&
+                        !Qvx2Reader_GetFileMetaInformation(parser, kMetaExplicitVR, &explicitVR) &&
+                        explicitVR == 1;
+    *count = counts ? static_cast<std::uint16_t>(table / kOffsetTableEntry) : 1;
+    return kQvxOK;
+}
+
+std::int32_t Parser_GetDefaultCineType(ParserHandle parser)
+{
+    std::uint16_t sequencing = 0;
+    if (Qvx2_ParserGetElementValue(parser, QvxElementRef::None, kTagCineType.group,
+                                   kTagCineType.element, 1, QvxNumericValueType::UInt16,
+                                   &sequencing))
+        return kNoCineType;
+    return sequencing + 1;
+}
+
+std::int32_t Parser_GetRepresentativeFrameNumber(ParserHandle parser)
+{
+    std::int32_t frame = 0;
+    if (Parser_GetElementValueAsLong(parser, QvxElementRef::None, kTagRepresentativeFrame.group,
+                                     kTagRepresentativeFrame.element, 1, &frame))
+        return 0;
+    return frame;
 }

@@ -1,4 +1,4 @@
-// How long the frames of a file are to be shown. Times are milliseconds.
+// How many frames a file has and how they are to be shown. Times are milliseconds.
 #pragma once
 #include "Qvx2Parser/Qvx2Reader.h"
 #include <cstdint>
@@ -11,6 +11,11 @@ struct zelFrameTimes {
     float fSingle = 0;
     std::vector<float> fVector;
 };
+
+// The header's count of frames; nothing is mapped. Number of Frames (0028,0008), a negative one
+// counting as 1; 0 without Pixel Data; else what the Basic Offset Table has room for, 1 without one
+// or in a file of implicit VR.
+[[nodiscard]] QvxStatus Parser_GetNumberOfFrames(ParserHandle parser, std::int32_t* count);
 
 // The sources in order: Recommended Display Frame Rate (0008,2144), Cine Rate (0018,0040), Actual
 // Frame Duration (0018,1242), each read as a 16-bit whole number that isn't 0; then Frame Time and
@@ -28,3 +33,12 @@ struct zelFrameTimes {
 // The vector without its zero head, which is the time "before" the first frame: all entries move
 // one place forward, the last stands twice.
 [[nodiscard]] QvxStatus Parser_GetMultipleTimes(ParserHandle parser, std::vector<float>* vector);
+
+// The first two sources alone: what the file wants a viewer to show. False if it states no rate.
+[[nodiscard]] bool Parser_GetDisplayRateTime(ParserHandle parser, float* time);
+
+// Preferred Playback Sequencing (0018,1244) plus 1: 1 loops, 2 sweeps. -2 if the file has none, or
+// not as US.
+[[nodiscard]] std::int32_t Parser_GetDefaultCineType(ParserHandle parser);
+// (0028,6010), 0 if missing.
+[[nodiscard]] std::int32_t Parser_GetRepresentativeFrameNumber(ParserHandle parser);

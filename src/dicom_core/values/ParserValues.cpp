@@ -6,15 +6,6 @@
 
 namespace {
 
-std::int32_t CutToLong(double value)
-{
-    using Limits = std::numeric_limits<std::int32_t>;
-    if (std::isnan(value))
-        return 0;
-    return static_cast<std::int32_t>(
-        std::clamp(value, static_cast<double>(Limits::min()), static_cast<double>(Limits::max())));
-}
-
 // The number as it was stored; kQvxUnsupported for what is none.
 QvxStatus NumberOf(const QvxElementValue& value, std::int32_t* number)
 {
@@ -46,6 +37,15 @@ QvxStatus NumberOf(const QvxElementValue& value, std::int32_t* number)
 }
 
 }  // namespace
+
+std::int32_t CutToLong(double value)
+{
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (std::isnan(value))
+        return 0;
+    return static_cast<std::int32_t>(
+        std::clamp(value, static_cast<double>(Limits::min()), static_cast<double>(Limits::max())));
+}
 
 QvxStatus Parser_GetElementValueAsLong(ParserHandle parser, QvxElementRef element,
                                        std::int32_t index, std::int32_t* result)

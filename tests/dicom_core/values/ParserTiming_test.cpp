@@ -114,3 +114,57 @@ TEST(Parser_GetFrameIncrementPointer, swaps_in_a_big_endian_file)
     EXPECT_EQ(group, 0x0018);
     EXPECT_EQ(element, 0x1065);
 }
+
+TEST(Parser_GetNumberOfFrames, falls_back_on_the_offset_table)
+{
+    struct Row {
+        const char* fault;
+        DicomBuilder file;
+        std::int32_t count;
+    };
+    const std::vector<DicomFrame> three{{"one."}, {"two."}, {"tri."}};
+    const auto stated = [](const char* frames) {
+        return Header().Element(0x0028, 0x0008, "IS", frames);
+    };
+    const auto jpeg = [](std::string_view syntax) {
+        return DicomBuilder().Meta(syntax).CommonHeader("US");
+    };
+    const Row rows[] = {
+        {"stated", stated("12"), 12},
+        {"a negative count", stated("-3"), 1},
+        {"0 stays 0, whatever the pixels say", stated("0").NativePixels({1, 2}), 0},
+        {"an empty count is none", stated("").NativePixels({1, 2}), 1},
+        {"no pixels", Header(), 0},
+        {"native pixels", Header().NativePixels({1, 2}), 1},
+        {"a filled table", jpeg(kUidJpegBaseline).Encapsulated(three, DicomOffsetTable::Filled), 3},
+        {"an empty table", jpeg(kUidJpegBaseline).Encapsulated(three), 1},
+        {"no fragments", jpeg(kUidJpegBaseline).Encapsulated({}, DicomOffsetTable::Missing), 1},
+        {"implicit VR",
+         jpeg(kUidJpegBaseline).Implicit().Encapsulated(three, DicomOffsetTable::Filled), 1},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.fault);
+        QvxReaderPtr reader;
+        ASSERT_EQ(Qvx2Parser_OpenBytes(&reader, row.file.ByteVector(), kQvxProgramOptions), kQvxOK);
+        std::int32_t count = -1;
+        EXPECT_EQ(Parser_GetNumberOfFrames(reader.get(), &count), kQvxOK);
+        EXPECT_EQ(count, row.count);
+    }
+    std::int32_t count = -1;
+    EXPECT_EQ(Parser_GetNumberOfFrames(nullptr, &count), kQvxBadArgument);
+}
+
+TEST(Parser_GetDefaultCineType, wants_a_US)
+{
+    const std::pair<DicomBuilder, std::int32_t> rows[] = {
+        {Header(), -2},
+        {Header().Element(0x0018, 0x1244, "US", 0), 1},
+        {Header().Element(0x0018, 0x1244, "US", 1), 2},
+        {Header().Element(0x0018, 0x1244, "IS", "1"), -2},
+    };
+    for (const auto& [file, type] : rows) {
+        QvxReaderPtr reader;
+        ASSERT_EQ(Qvx2Parser_OpenBytes(&reader, file.ByteVector(), kQvxProgramOptions), kQvxOK);
+        EXPECT_EQ(Parser_GetDefaultCineType(reader.get()), type);
+    }
+}
