@@ -146,6 +146,16 @@ QvxStatus CImporter::GetDataRef(FileRef* file) const
     return kQvxOK;
 }
 
+QvxStatus CImporter::GetDataIdentity(FileIdentity* identity) const
+{
+    if (!fInstance)
+        return kQvxNoImporter;
+    if (!identity)
+        return kQvxBadArgument;
+    *identity = fInstance->DataIdentity();
+    return kQvxOK;
+}
+
 QvxStatus CImporter::GetDataOffsetAndSize(std::uint32_t* offset, std::uint32_t* size)
 {
     if (!fInstance)

@@ -42,6 +42,8 @@ public:
     [[nodiscard]] QvxStatus SetBounds(const Rect& bounds);
 
     [[nodiscard]] QvxStatus GetDataRef(FileRef* file) const;
+    // Which state of that file is open, not known for some kinds.
+    [[nodiscard]] QvxStatus GetDataIdentity(FileIdentity* identity) const;
     // Place of the stored bytes of the current image in its file.
     [[nodiscard]] QvxStatus GetDataOffsetAndSize(std::uint32_t* offset, std::uint32_t* size);
     [[nodiscard]] QvxStatus ReadData(void* dest, std::uint32_t offset, std::uint32_t size);

@@ -46,6 +46,8 @@ QvxStatus DicomImporter::SetDataFile(const FileRef& file)
     return kQvxOK;
 }
 
+FileIdentity DicomImporter::DataIdentity() const { return Qvx2Reader_FileIdentity(fReader.get()); }
+
 QvxStatus DicomImporter::Load()
 {
     if (!fReader)

@@ -15,6 +15,7 @@ public:
     // pixels are missing or beyond the decoders, counts one image, whose size is known and whose
     // description and draw answer the reason.
     [[nodiscard]] QvxStatus SetDataFile(const FileRef& file) override;
+    [[nodiscard]] FileIdentity DataIdentity() const override;
     [[nodiscard]] QvxStatus Validate(bool* valid) override;
     [[nodiscard]] QvxStatus GetImageCount(std::int32_t* count) override;
     [[nodiscard]] QvxStatus GetNaturalBounds(Rect* bounds) override;

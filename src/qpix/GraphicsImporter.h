@@ -46,6 +46,8 @@ public:
     // Binds the instance to a file, in place of the one before. Fails for what it can't import.
     [[nodiscard]] virtual QvxStatus SetDataFile(const FileRef& file) = 0;
     [[nodiscard]] const FileRef& DataFile() const { return fFile; }
+    // Which state of which file it has opened, if the kind knows.
+    [[nodiscard]] virtual FileIdentity DataIdentity() const { return {}; }
     // Is the file of the importer's kind? kQvxImporterValid says yes as well.
     [[nodiscard]] virtual QvxStatus Validate(bool* valid) = 0;
 

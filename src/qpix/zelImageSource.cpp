@@ -6,40 +6,37 @@
 #include <algorithm>
 #include <atomic>
 
-namespace {
+static_assert(sizeof(void*) != 8 || sizeof(zelImageSource) <= 160);
 
-std::int32_t NextSourceID()
+std::int32_t zelImageSource::NextID()
 {
-    static std::atomic<std::int32_t> sImageSourceID{0};
-    return ++sImageSourceID;
+    static std::atomic<std::int32_t> fsImageSourceID{0};
+    return ++fsImageSourceID;
 }
 
-}  // namespace
-
-zelImageSource::zelImageSource(std::int32_t id) : fID(id ? id : NextSourceID()) {}
+zelImageSource::zelImageSource(std::int32_t id) : fID(id ? id : NextID()) {}
 
 zelImageSource::~zelImageSource() = default;
 
+zelImageSource::Extras& zelImageSource::More()
+{
+    if (!fMore)
+        fMore = std::make_unique<Extras>();
+    return *fMore;
+}
+
 void zelImageSource::Reset()
 {
-    fFile = {};
-    fImporter.reset();
-    fParser.reset();
-    fFrameTimeKind = kTimesUnknown;
-    fSingleFrameTime = 0;
-    fFrameTimes.clear();
-    fFrameTimes.shrink_to_fit();
-    fFrameTimeStatus = kQvxOK;
     fIsDICOM = fValid = false;
     fValidationPending = true;
-    fFrameCount = -1;
+    fHeaderRead = fFromURL = false;
     fMaxFrameSize = {};
-    fVOILimits = {};
-    fFileName.clear();
-    fPathUTF8.reset();
-    fNameUTF8.reset();
-    fMediaInfo.reset();
-    fFSInfo.reset();
+    fFrameCount = -1;
+    fFrameTimeKind = kTimesUnknown;
+    fFile = {};
+    fIdentity = {};
+    fParser.reset();
+    fMore.reset();
 }
 
 void zelImageSource::RemoveReference(bool dispose)
@@ -58,48 +55,134 @@ QvxStatus zelImageSource::ImportFromFSSpec(const FileRef& file, FileImportMode m
     Reset();
     if (wanted.Empty())
         return kQvxBadArgument;
-    if (mode != kImportDeferCheck && mode != kImportDeferNoCheck) {
-        // Without importers of plain images kImportAny has nothing to try behind the reader.
-        if (const QvxStatus status =
-                U_NewDicomParserForFileSpec(wanted, &fParser, mode != kImportDicomNoCheck))
-            return status;
-    }
     fIsDICOM = true;
     fValidationPending = mode == kImportDeferCheck;
+    if (mode != kImportDeferCheck && mode != kImportDeferNoCheck) {
+        if (const QvxStatus status = ImportNow(wanted, mode)) {
+            Reset();
+            return status;
+        }
+    }
     fFile = wanted;
     fValid = true;
     return kQvxOK;
 }
 
-QvxStatus zelImageSource::OpenParser()
+QvxStatus zelImageSource::ImportNow(const FileRef& file, FileImportMode mode)
 {
-    QvxReaderPtr parser;
-    if (const QvxStatus status = U_NewDicomParserForFileSpec(fFile, &parser, fValidationPending))
-        return status;
-    // A file that nobody checks must at least read as a header, or anything would be one.
-    const QvxReaderUse use(parser.get());
-    if (const QvxStatus status = Parser_WalkHeader(parser.get()))
-        return status;
-    fParser = std::move(parser);
-    fValidationPending = false;
+    const QvxStatus status =
+        U_NewDicomParserForFileSpec(file, &fParser, mode != kImportDicomNoCheck);
+    if (status)
+        return mode == kImportAny ? TakeImporter(file) : status;
+    fIdentity = Qvx2Reader_FileIdentity(fParser.get());
+    fHeaderRead = true;
     return kQvxOK;
 }
 
-QvxStatus zelImageSource::LoadDicomParser()
+QvxStatus zelImageSource::TakeImporter(const FileRef& file)
+{
+    CImporterPlus* made = nullptr;
+    if (const QvxStatus status =
+            CImporterPlusFactory::NewImporterForFileEx(file, &made, ImporterChoice::ByFile))
+        return status;
+    CImporterPlusPtr importer(made);
+    if (const QvxStatus status = importer->GetDataIdentity(&fIdentity))
+        return status;
+    fIsDICOM = importer->GetImporterBaseType() == kImporterDicom;
+    More().fImporter = std::move(importer);
+    return kQvxOK;
+}
+
+void zelImageSource::ImportFromHeader(const FileRef& file, const FileIdentity& identity,
+                                      std::int32_t frameCount)
+{
+    FileRef wanted = file;
+    Reset();
+    fFile = std::move(wanted);
+    fIdentity = identity;
+    fFrameCount = frameCount;
+    fValidationPending = false;
+    fHeaderRead = fIsDICOM = fValid = true;
+}
+
+void zelImageSource::ImportFromSource(const zelImageSource& other)
+{
+    if (&other == this)
+        return;
+    Reset();
+    fIsDICOM = other.fIsDICOM;
+    fValid = other.fValid;
+    fValidationPending = other.fValidationPending;
+    fHeaderRead = other.fHeaderRead;
+    fFromURL = other.fFromURL;
+    fMaxFrameSize = other.fMaxFrameSize;
+    fFrameCount = other.fFrameCount;
+    fFile = other.fFile;
+    fIdentity = other.fIdentity;
+    if (fFromURL)
+        More().fURL = other.fMore->fURL;
+}
+
+QvxStatus zelImageSource::OpenParser(std::optional<QvxReaderUse>* use)
+{
+    QvxReaderPtr parser;
+    if (const QvxStatus status =
+            U_NewDicomParserInUse(fFile, &parser, use, fValidationPending, &fIdentity))
+        return status;
+    // A file that nobody checks must at least read as a header, or anything would be one.
+    if (const QvxStatus status = Parser_WalkHeader(parser.get())) {
+        use->reset();
+        return status;
+    }
+    fIdentity = Qvx2Reader_FileIdentity(parser.get());
+    fParser = std::move(parser);
+    fValidationPending = false;
+    fHeaderRead = true;
+    return kQvxOK;
+}
+
+QvxStatus zelImageSource::LoadDicomParser(std::optional<QvxReaderUse>* use)
 {
     if (!fValid || !fIsDICOM)
         return kQvxBadArgument;
-    if (fParser)
+    if (fParser) {
+        use->emplace(fParser.get());
         return kQvxOK;
-    const QvxStatus status = OpenParser();
+    }
+    const QvxStatus status = OpenParser(use);
     if (status)
         fValid = false;
     return status;
 }
 
+QvxStatus zelImageSource::LoadDicomParser()
+{
+    std::optional<QvxReaderUse> use;
+    return LoadDicomParser(&use);
+}
+
 ParserHandle zelImageSource::GetDicomParser()
 {
     return LoadDicomParser() ? nullptr : fParser.get();
+}
+
+void zelImageSource::ReleaseParser() { fParser.reset(); }
+
+zelParserVisit::zelParserVisit(zelImageSource* source)
+{
+    const bool wasOpen = source && source->HasOpenParser();
+    if (!source || source->LoadDicomParser(&fUse))
+        return;
+    fParser = source->fParser.get();
+    if (!wasOpen)
+        fSource = source;
+}
+
+zelParserVisit::~zelParserVisit()
+{
+    fUse.reset();
+    if (fSource)
+        fSource->ReleaseParser();
 }
 
 QvxStatus zelImageSource::OpenImporter()
@@ -109,6 +192,11 @@ QvxStatus zelImageSource::OpenImporter()
     if (const QvxStatus status = CImporterPlusFactory::NewImporterForFileEx(fFile, &made, choice))
         return status;
     CImporterPlusPtr importer(made);
+    FileIdentity opened;
+    if (const QvxStatus status = importer->GetDataIdentity(&opened))
+        return status;
+    if (fIdentity.Known() && opened.Known() && fIdentity != opened)
+        return kQvxSeekFailed;
     if (fValidationPending) {
         bool valid = false;
         const QvxStatus asked = importer->Validate(&valid);
@@ -116,7 +204,9 @@ QvxStatus zelImageSource::OpenImporter()
             return status;
         fValidationPending = false;
     }
-    fImporter = std::move(importer);
+    if (!fIdentity.Known())
+        fIdentity = opened;
+    More().fImporter = std::move(importer);
     return kQvxOK;
 }
 
@@ -124,7 +214,7 @@ QvxStatus zelImageSource::LoadImporter()
 {
     if (!fValid)
         return kQvxBadArgument;
-    if (fImporter)
+    if (Importer())
         return kQvxOK;
     const QvxStatus status = OpenImporter();
     if (status)
@@ -132,7 +222,7 @@ QvxStatus zelImageSource::LoadImporter()
     return status;
 }
 
-CImporterPlus* zelImageSource::GetImporter() { return LoadImporter() ? nullptr : fImporter.get(); }
+CImporterPlus* zelImageSource::GetImporter() { return LoadImporter() ? nullptr : Importer(); }
 
 QvxStatus zelImageSource::GetFrameCount(std::int32_t* count)
 {
@@ -141,27 +231,37 @@ QvxStatus zelImageSource::GetFrameCount(std::int32_t* count)
     *count = std::max(fFrameCount, 0);
     if (fFrameCount >= 0)
         return kQvxOK;
-    if (const ParserHandle parser = fIsDICOM ? GetDicomParser() : nullptr) {
-        const QvxReaderUse use(parser);
-        if (const QvxStatus status = Parser_WalkHeader(parser))
-            return status;
-        std::uint32_t claimed = 0;
-        if (const QvxStatus status = Qvx2Reader_GetNumberOfFrames(parser, kFramesClaimed, &claimed))
-            return status;
-        if (claimed > INT32_MAX)
-            return kQvxMalformed;
-        fFrameCount = static_cast<std::int32_t>(claimed);
-    } else {
-        if (const QvxStatus status = LoadImporter())
-            return status;
-        std::int32_t images = 0;
-        if (const QvxStatus status = fImporter->CountImages(&images))
-            return status;
-        if (images < 0)
-            return kQvxMalformed;
-        fFrameCount = images;
-    }
+    const zelParserVisit visit(fIsDICOM ? this : nullptr);
+    if (const QvxStatus status = visit.Parser() ? CountClaimedFrames() : CountImages())
+        return status;
     *count = fFrameCount;
+    return kQvxOK;
+}
+
+QvxStatus zelImageSource::CountClaimedFrames()
+{
+    if (const QvxStatus status = Parser_WalkHeader(fParser.get()))
+        return status;
+    std::uint32_t claimed = 0;
+    if (const QvxStatus status =
+            Qvx2Reader_GetNumberOfFrames(fParser.get(), kFramesClaimed, &claimed))
+        return status;
+    if (claimed > INT32_MAX)
+        return kQvxMalformed;
+    fFrameCount = static_cast<std::int32_t>(claimed);
+    return kQvxOK;
+}
+
+QvxStatus zelImageSource::CountImages()
+{
+    if (const QvxStatus status = LoadImporter())
+        return status;
+    std::int32_t images = 0;
+    if (const QvxStatus status = Importer()->CountImages(&images))
+        return status;
+    if (images < 0)
+        return kQvxMalformed;
+    fFrameCount = images;
     return kQvxOK;
 }
 
@@ -184,7 +284,7 @@ QvxStatus zelImageSource::WalkFrameSizes(Point* size)
     if (const QvxStatus status = LoadImporter())
         return status;
     std::int32_t before = 0, last = 1;
-    if (const QvxStatus status = fImporter->GetCurrentImage(&before))
+    if (const QvxStatus status = Importer()->GetCurrentImage(&before))
         return status;
     if (!fIsDICOM)
         if (const QvxStatus status = GetFrameCount(&last))
@@ -192,15 +292,15 @@ QvxStatus zelImageSource::WalkFrameSizes(Point* size)
     QvxStatus result = kQvxOK;
     for (std::int32_t image = 1; image <= last && !result; ++image) {
         Rect bounds;
-        result = fImporter->SetCurrentImage(image);
+        result = Importer()->SetCurrentImage(image);
         if (!result)
-            result = fImporter->GetNaturalBounds(&bounds);
+            result = Importer()->GetNaturalBounds(&bounds);
         if (result || EmptyRect(bounds))
             continue;
         size->v = std::max(size->v, bounds.bottom);
         size->h = std::max(size->h, bounds.right);
     }
-    const QvxStatus restored = fImporter->SetCurrentImage(before);
+    const QvxStatus restored = Importer()->SetCurrentImage(before);
     return result ? result : restored;
 }
 
@@ -213,19 +313,19 @@ QvxStatus zelImageSource::GetFrameSize(std::int32_t frame, Point* size)
     if (const QvxStatus status = LoadImporter())
         return status;
     std::int32_t before = 0;
-    if (const QvxStatus status = fImporter->GetCurrentImage(&before))
+    if (const QvxStatus status = Importer()->GetCurrentImage(&before))
         return status;
-    QvxStatus status = fImporter->SetCurrentImage(frame);
+    QvxStatus status = Importer()->SetCurrentImage(frame);
     if (!status)
-        status = fImporter->GetSize(size);
-    const QvxStatus restored = fImporter->SetCurrentImage(before);
+        status = Importer()->GetSize(size);
+    const QvxStatus restored = Importer()->SetCurrentImage(before);
     return status ? status : restored;
 }
 
 ColorType zelImageSource::GetColorType()
 {
     ImageInfo info;
-    if (LoadImporter() || fImporter->GetImageInfo(&info))
+    if (LoadImporter() || Importer()->GetImageInfo(&info))
         return ColorType::Unknown;
     return info.colorType;
 }
@@ -238,7 +338,7 @@ bool zelImageSource::GetTheDefaultVOIValuesFromImporter(float* width, float* lev
         return false;
     *width = *level = 0;
     const ImageDescription* description = nullptr;
-    return !LoadImporter() && !fImporter->GetImageDesc(&description) &&
+    return !LoadImporter() && !Importer()->GetImageDesc(&description) &&
            !GetDicomDescriptionVOIParams(*description, width, level);
 }
 
@@ -247,6 +347,11 @@ QvxStatus zelImageSource::SetVOILimits(std::uint32_t minWidth, std::int32_t minL
 {
     if (maxLevel < minLevel || maxWidth < minWidth)
         return kQvxBadArgument;
-    fVOILimits = {minWidth, maxWidth, minLevel, maxLevel};
+    More().fVOILimits = {minWidth, maxWidth, minLevel, maxLevel};
     return kQvxOK;
+}
+
+zelSourceVOILimits zelImageSource::GetVOILimits() const
+{
+    return fMore ? fMore->fVOILimits : zelSourceVOILimits{};
 }

@@ -22,33 +22,36 @@ float Sensible(float time)
 
 QvxStatus zelImageSource::LoadFrameTimes()
 {
-    if (fFrameTimeKind != kTimesUnknown || fFrameTimeStatus)
-        return fFrameTimeStatus;
+    if (fFrameTimeKind != kTimesUnknown)
+        return kQvxOK;
+    if (fMore && fMore->fFrameTimeStatus)
+        return fMore->fFrameTimeStatus;
     std::int32_t frames = 0;
     if (const QvxStatus status = GetFrameCount(&frames))
         return status;
-    fFrameTimeStatus = ReadFrameTimes(frames);
-    return fFrameTimeStatus;
+    const QvxStatus status = ReadFrameTimes(frames);
+    if (status)
+        More().fFrameTimeStatus = status;
+    return status;
 }
 
 QvxStatus zelImageSource::ReadFrameTimes(std::int32_t frames)
 {
     zelFrameTimes times;
-    const ParserHandle parser = frames != 1 && fIsDICOM ? GetDicomParser() : nullptr;
-    const QvxReaderUse use(parser);
-    if (!parser || Parser_GetFrameTimes(parser, &times) || times.fCount == 0) {
+    const zelParserVisit visit(frames != 1 && fIsDICOM ? this : nullptr);
+    if (!visit.Parser() || Parser_GetFrameTimes(visit.Parser(), &times) || times.fCount == 0) {
         fFrameTimeKind = kTimesDefault;
         return kQvxOK;
     }
     if (times.fCount == 1 && times.fSingle >= 0) {
-        fSingleFrameTime = Sensible(times.fSingle);
+        More().fSingleFrameTime = Sensible(times.fSingle);
         fFrameTimeKind = kTimesSingle;
         return kQvxOK;
     }
     if (times.fCount != frames || times.fVector.empty())
         return kQvxBadArgument;
-    fFrameTimes = std::move(times.fVector);
-    std::ranges::transform(fFrameTimes, fFrameTimes.begin(), Sensible);
+    std::vector<float>& kept = More().fFrameTimes = std::move(times.fVector);
+    std::ranges::transform(kept, kept.begin(), Sensible);
     fFrameTimeKind = frames;
     return kQvxOK;
 }
@@ -66,8 +69,8 @@ double zelImageSource::SumOfTimes(std::int32_t frames) const
     if (fFrameTimeKind == kTimesDefault)
         return frames * double{kDefaultFrameDuration_ms};
     if (fFrameTimeKind == kTimesSingle)
-        return frames * double{fSingleFrameTime};
-    return std::accumulate(fFrameTimes.begin(), fFrameTimes.begin() + frames, 0.0);
+        return frames * double{fMore->fSingleFrameTime};
+    return std::accumulate(fMore->fFrameTimes.begin(), fMore->fFrameTimes.begin() + frames, 0.0);
 }
 
 QvxStatus zelImageSource::GetFrameDuration(std::int32_t frame, double* duration)
@@ -79,9 +82,9 @@ QvxStatus zelImageSource::GetFrameDuration(std::int32_t frame, double* duration)
     if (fFrameTimeKind == kTimesDefault)
         *duration = double{kDefaultFrameDuration_ms};
     else if (fFrameTimeKind == kTimesSingle)
-        *duration = double{fSingleFrameTime};
+        *duration = double{fMore->fSingleFrameTime};
     else
-        *duration = double{fFrameTimes[static_cast<std::size_t>(frame) - 1]};
+        *duration = double{fMore->fFrameTimes[static_cast<std::size_t>(frame) - 1]};
     return kQvxOK;
 }
 
@@ -114,7 +117,7 @@ QvxStatus zelImageSource::GetFrameForTimePos(double time, std::int32_t* frame)
         return kQvxBadArgument;
     if (fFrameTimeKind == kTimesDefault || fFrameTimeKind == kTimesSingle) {
         const double each = fFrameTimeKind == kTimesDefault ? double{kDefaultFrameDuration_ms}
-                                                            : double{fSingleFrameTime};
+                                                            : double{fMore->fSingleFrameTime};
         // A time just below the total can divide to the whole count.
         *frame = std::min(static_cast<std::int32_t>(time / each + 1.0), fFrameCount);
         return kQvxOK;
@@ -122,7 +125,7 @@ QvxStatus zelImageSource::GetFrameForTimePos(double time, std::int32_t* frame)
     double sum = 0;
     std::int32_t at = 0;
     while (at < fFrameCount - 1 &&
-           (sum += double{fFrameTimes[static_cast<std::size_t>(at)]}) <= time)
+           (sum += double{fMore->fFrameTimes[static_cast<std::size_t>(at)]}) <= time)
         ++at;
     *frame = at + 1;
     return kQvxOK;

@@ -12,6 +12,10 @@ const std::string kText = "This is a plain text, longer than a preamble. " + std
 class ImportModes : public ::testing::Test {
 protected:
     void SetUp() override { CImporterPlusFactory::InitFactory(); }
+    static ParserHandle GetReader(zelImageSource* source, const FileRef& file)
+    {
+        return source->ImportFromFSSpec(file, kImportDicom) ? nullptr : source->GetDicomParser();
+    }
     TempFolder fFolder;
 };
 
@@ -75,6 +79,104 @@ TEST_F(ImportModes, leave_no_descriptor_open)
         EXPECT_EQ(count(), before);
         ASSERT_NE(source.GetDicomParser(), nullptr);
         EXPECT_EQ(count(), before);
+    }
+}
+
+// What is learned of a file stays, whoever reads it again: only if the file stayed too.
+TEST_F(ImportModes, a_file_that_is_opened_again_must_be_the_same)
+{
+    enum class First { Parser, Importer, Header, Copy };
+    struct Row {
+        First first;
+        bool parserAgain;
+    };
+    for (const auto& [first, parserAgain] :
+         {Row{First::Parser, true}, Row{First::Parser, false}, Row{First::Header, true},
+          Row{First::Header, false}, Row{First::Copy, true}, Row{First::Copy, false},
+          Row{First::Importer, true}}) {
+        for (const bool changed : {false, true}) {
+            SCOPED_TRACE(testing::Message() << static_cast<int>(first) << parserAgain << changed);
+            const FileRef file = WriteDicom(fFolder, FramesOf2x2(2));
+            zelImageSource source, other;
+            ASSERT_EQ(source.ImportFromFSSpec(file, kImportDeferCheck), kQvxOK);
+            EXPECT_FALSE(source.HasReadHeader());
+            const ParserHandle reader = GetReader(&other, file);
+            switch (first) {
+                case First::Parser:
+                    ASSERT_NE(zelParserVisit(&source).Parser(), nullptr);
+                    break;
+                case First::Importer:
+                    ASSERT_NE(source.GetImporter(), nullptr);
+                    break;
+                case First::Header:
+                    source.ImportFromHeader(file, Qvx2Reader_FileIdentity(reader), 2);
+                    break;
+                case First::Copy:
+                    source.ImportFromSource(other);
+            }
+            EXPECT_EQ(source.HasReadHeader(), first != First::Importer);
+            EXPECT_FALSE(source.HasOpenParser());
+            if (changed)
+                WriteDicom(fFolder, FramesOf2x2(3));
+            EXPECT_EQ(parserAgain ? source.LoadDicomParser() : source.LoadImporter(),
+                      changed ? kQvxSeekFailed : kQvxOK);
+            EXPECT_EQ(source.IsValid(), !changed);
+        }
+    }
+}
+
+TEST_F(ImportModes, a_visit_leaves_the_reader_as_it_found_it)
+{
+    zelImageSource source;
+    ASSERT_EQ(source.ImportFromFSSpec(WriteDicom(fFolder, FramesOf2x2(1)), kImportDeferCheck),
+              kQvxOK);
+    {
+        const zelParserVisit outer(&source);
+        {
+            const zelParserVisit inner(&source);
+            EXPECT_EQ(inner.Parser(), outer.Parser());
+        }
+        EXPECT_TRUE(source.HasOpenParser());
+    }
+    EXPECT_FALSE(source.HasOpenParser());
+    ASSERT_NE(source.GetDicomParser(), nullptr);
+    {
+        const zelParserVisit visit(&source);
+    }
+    EXPECT_TRUE(source.HasOpenParser());
+    EXPECT_EQ(zelParserVisit(nullptr).Parser(), nullptr);
+}
+
+TEST_F(ImportModes, urls)
+{
+    struct Row {
+        const char* begin;
+        const char* name;
+        QvxStatus status;
+    };
+    WriteDicom(fFolder, FramesOf2x2(2), "a b%.dcm");
+    const Row rows[] = {
+        {"file://", "a%20b%25.dcm", kQvxOK},
+        {"file://localhost", "a%20b%25.dcm", kQvxOK},
+        {"file://", "a%20b%25.dcm%0", kQvxNoDataRefType},
+        {"file://", "a%20b%2x.dcm", kQvxNoDataRefType},
+        {"file://elsewhere", "a%20b%25.dcm", kQvxNoDataRefType},
+        {"http://", "a%20b%25.dcm", kQvxNoDataRefType},
+        {"file://", "a%20b%25.dcm%00", kQvxFileNotFound},
+        {"file://", "none", 2},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.begin + std::string(row.name));
+        zelImageSource source;
+        const std::string url = row.begin + fFolder.Path(row.name);
+        ASSERT_EQ(source.ImportFromURL(url), row.status);
+        EXPECT_EQ(source.IsValid(), row.status == kQvxOK);
+        EXPECT_EQ(source.HasOpenParser(), row.status == kQvxOK);
+        if (row.status)
+            continue;
+        EXPECT_EQ(source.GetDataPath(), url);
+        EXPECT_EQ(source.GetFileName(), "a b%.dcm");
+        EXPECT_EQ(source.LoadFSInfo(), nullptr);
     }
 }
 
