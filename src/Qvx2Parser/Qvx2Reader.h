@@ -15,6 +15,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <string_view>
 
 struct QvxParserRec;
 // What everything above holds of one DICOM file; null is no parser.
@@ -107,7 +108,13 @@ using QvxElementRefArray = QvxHandle;
 // kQvxBadChain on a bad reference.
 [[nodiscard]] QvxStatus Qvx2Reader_FindElement(QvxParserRec* reader, QvxElementRef parent,
                                                QvxElementTag tag, QvxElementRef* found);
-// The same for one element of a file that need not be walked: reads forward to it and remembers it.
+// The top-level elements of several tags in one pass: found[i] is the last that bears tags[i], None
+// without one. `tags` ascend; both spans are equally long.
+[[nodiscard]] QvxStatus Qvx2Reader_FindTopLevelElements(QvxParserRec* reader,
+                                                        std::span<const QvxElementTag> tags,
+                                                        std::span<QvxElementRef> found);
+// Qvx2Reader_FindElement for one element of a file that need not be walked: reads forward to it and
+// remembers it.
 [[nodiscard]] QvxStatus Qvx2Reader_GetElementRef(QvxParserRec* reader, QvxElementRef parent,
                                                  QvxElementTag tag, QvxElementRef* found);
 [[nodiscard]] QvxStatus Qvx2Reader_GetElementTag(const QvxParserRec* reader, QvxElementRef element,
@@ -136,6 +143,12 @@ using QvxElementRefArray = QvxHandle;
 // Value number `index` as text without a terminator. Length 0 gives an empty handle and no error.
 [[nodiscard]] QvxStatus Qvx2Reader_GetElementDataAsText(QvxParserRec* reader, QvxElementRef element,
                                                         std::int32_t index, QvxHandle* text);
+
+// The same for an element of one value and a kind of text, without a copy: a view of the reader's
+// memory until its next call, with the padding of UI taken off. kQvxUnsupported for any other
+// element, an empty one and a date or time that has to be rewritten included.
+[[nodiscard]] QvxStatus Qvx2Reader_GetPlainText(QvxParserRec* reader, QvxElementRef element,
+                                                std::string_view* text);
 
 // What the file says of itself; `value` may be kUnknownState. Selectors:
 inline constexpr std::uint32_t kMetaByteOrder = FourCC("S_EN");

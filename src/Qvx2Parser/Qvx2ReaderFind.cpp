@@ -299,6 +299,27 @@ QvxStatus Qvx2Reader_FindElement(QvxParserRec* reader, QvxElementRef parent, Qvx
     return kQvxOK;
 }
 
+QvxStatus Qvx2Reader_FindTopLevelElements(QvxParserRec* reader, std::span<const QvxElementTag> tags,
+                                          std::span<QvxElementRef> found)
+{
+    if (!reader || tags.size() != found.size())
+        return kQvxBadArgument;
+    if (const QvxStatus status = EnsureWalked(reader))
+        return status;
+    std::ranges::fill(found, QvxElementRef::None);
+    std::size_t next = 0;  // of `tags`, the first that isn't below the element
+    for (QvxIndex i = reader->fState->fListHead; i; i = (*reader->fState)[i].fNext) {
+        const std::uint32_t key = (*reader->fState)[i].Tag().Key();
+        if (next > 0 && key <= tags[next - 1].Key())  // out of order
+            next = 0;
+        while (next < tags.size() && tags[next].Key() < key)
+            ++next;
+        if (next < tags.size() && tags[next].Key() == key)
+            found[next] = QvxRefOf(*reader, i);
+    }
+    return kQvxOK;
+}
+
 QvxStatus Qvx2Reader_GetElementRef(QvxParserRec* reader, QvxElementRef parent, QvxElementTag tag,
                                    QvxElementRef* found)
 {

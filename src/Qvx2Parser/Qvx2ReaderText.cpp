@@ -124,6 +124,31 @@ QvxStatus Qvx2Reader_GetElementDataAsText(QvxParserRec* reader, QvxElementRef el
     }
 }
 
+QvxStatus Qvx2Reader_GetPlainText(QvxParserRec* reader, QvxElementRef element,
+                                  std::string_view* text)
+{
+    if (!text)
+        return kQvxBadArgument;
+    QvxIndex at = 0;
+    if (const QvxStatus status = QvxIndexOf(reader, element, &at))
+        return status;
+    if (const QvxStatus status = QvxEnsureValue(reader, at))
+        return status;
+    const DicomHeaderDataStruct& read = (*reader->fState)[at];
+    if (read.fMultiplicity != 1 || read.fContentKind != QvxContent::Block || read.fContent == 0 ||
+        read.fLength == 0 || GetElementSuperType(read.VR()) != QvxSuperType::Text)
+        return kQvxUnsupported;
+    std::string_view value(
+        reinterpret_cast<const char*>(reader->fState->fArena.Block(read.fContent)), read.fLength);
+    if (read.VR() == kVRIndexUI && value.ends_with('\0'))
+        value.remove_suffix(1);
+    if ((read.VR() == kVRIndexDA && value.find('.') != std::string_view::npos) ||
+        (read.VR() == kVRIndexTM && value.find(':') != std::string_view::npos))
+        return kQvxUnsupported;
+    *text = value;
+    return kQvxOK;
+}
+
 QvxStatus Qvx2_ParserGetElementValue(QvxParserRec* reader, QvxElementRef parent,
                                      std::uint16_t group, std::uint16_t element, std::int32_t index,
                                      QvxNumericValueType wanted, void* dest)

@@ -10,6 +10,14 @@ namespace {
 constexpr std::size_t kLargestGuess = 4096;
 thread_local std::size_t tLastCount = 128;
 
+// Small values share rooms, but not where a sanitizer is to see who leaves his own.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr std::uint64_t kLargestSmallBlock = 0;
+#else
+constexpr std::uint64_t kLargestSmallBlock = 256;
+#endif
+constexpr std::uint64_t kRoomOfSmallBlocks = 1008;
+
 }  // namespace
 
 ExtraHeaderDataRec::~ExtraHeaderDataRec()
@@ -44,14 +52,37 @@ void QvxArena::DropLast(QvxIndex index)
         fElements.pop_back();
 }
 
+// Most values are a few bytes: an allocation for each would cost more than to read them.
+std::byte* QvxArena::NewRoom(std::uint64_t size)
+{
+    constexpr std::uint64_t kAlignment = 8;
+    const std::uint64_t taken = (size + kAlignment - 1) / kAlignment * kAlignment;
+    const bool isSmall = taken <= kLargestSmallBlock;
+    if (!isSmall || taken > fFreeSize) {
+        const std::uint64_t room = isSmall ? kRoomOfSmallBlocks : size;
+        NoxBlock made(static_cast<std::byte*>(NoxMemAlloc(0, static_cast<std::int64_t>(room))));
+        if (!made)
+            return nullptr;
+        fRooms.push_back(std::move(made));
+        if (!isSmall)
+            return fRooms.back().get();
+        fFree = fRooms.back().get();
+        fFreeSize = room;
+    }
+    std::byte* block = fFree;
+    fFree += taken;
+    fFreeSize -= taken;
+    return block;
+}
+
 std::uint32_t QvxArena::NewBlock(std::uint32_t size)
 {
-    NoxBlock block(static_cast<std::byte*>(NoxMemAlloc(0, std::int64_t{size} + 1)));
-    if (!block)
-        return 0;
-    block[size] = std::byte{0};
     try {
-        fBlocks.push_back(std::move(block));
+        std::byte* block = NewRoom(std::uint64_t{size} + 1);
+        if (!block)
+            return 0;
+        block[size] = std::byte{0};
+        fBlocks.push_back(block);
     } catch (const std::bad_alloc&) {
         return 0;
     }

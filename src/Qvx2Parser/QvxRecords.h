@@ -75,15 +75,19 @@ public:
     void CutTo(QvxIndex count) { fElements.resize(count); }
     // A block for a value of `size` bytes and a terminator; 0 when memory ran out.
     [[nodiscard]] std::uint32_t NewBlock(std::uint32_t size);
-    [[nodiscard]] std::byte* Block(std::uint32_t number) { return fBlocks[number - 1].get(); }
+    [[nodiscard]] std::byte* Block(std::uint32_t number) { return fBlocks[number - 1]; }
     // Gives back room that was set aside and not needed.
     void Trim();
 
 private:
     [[nodiscard]] bool Grow();
+    [[nodiscard]] std::byte* NewRoom(std::uint64_t size);
 
     std::vector<DicomHeaderDataStruct> fElements;  // [0] is never handed out
-    std::vector<NoxBlock> fBlocks;
+    std::vector<std::byte*> fBlocks;               // in fRooms
+    std::vector<NoxBlock> fRooms;                  // of one large block, or of many small ones
+    std::byte* fFree = nullptr;                    // in the last room of small blocks
+    std::size_t fFreeSize = 0;
 };
 
 enum class QvxParseMode : std::uint32_t {

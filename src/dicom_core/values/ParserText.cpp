@@ -86,21 +86,38 @@ QvxStatus JoinEach(ParserHandle parser, QvxElementRef element, std::int32_t coun
     return kQvxOK;
 }
 
+// Values of the most common elements go from the reader's memory to the text at once.
 QvxStatus JoinValues(ParserHandle parser, QvxElementRef element, bool skipEmpty, std::size_t size,
                      std::string* text)
 {
+    ValueJoiner joiner(skipEmpty, size, text);
+    if (std::string_view plain; !Qvx2Reader_GetPlainText(parser, element, &plain)) {
+        joiner.Add(plain);
+        return kQvxOK;
+    }
     QvxElementDataInfo info;
     if (const QvxStatus status = Qvx2Reader_GetElementDataInfo(parser, element, &info))
         return status;
-    ValueJoiner joiner(skipEmpty, size, text);
     if (info.fMultiplicity > 1 && IsText(info.fVR))
         return JoinText(parser, element, info, &joiner);
     return JoinEach(parser, element, std::max(info.fMultiplicity, 1), &joiner);
 }
 
+void CopyText(std::string_view whole, std::size_t size, std::string* text)
+{
+    whole = whole.substr(0, size > 0 ? size - 1 : 0);
+    text->assign(whole.substr(0, whole.find('\0')));
+}
+
 QvxStatus OneValue(ParserHandle parser, QvxElementRef element, std::int32_t index, std::size_t size,
                    std::string* text)
 {
+    if (std::string_view plain;
+        index == 1 && !Qvx2Reader_GetPlainText(parser, element, &plain) && !plain.empty()) {
+        CopyText(plain, size, text);
+        TrimTrailingSpaces(text);
+        return kQvxOK;
+    }
     QvxHandle value;
     if (const QvxStatus status = Qvx2Reader_GetElementDataAsText(parser, element, index, &value))
         return status;
@@ -115,8 +132,7 @@ QvxStatus OneValue(ParserHandle parser, QvxElementRef element, std::int32_t inde
 
 void CopyTextHandleToCString(const QvxHandle& handle, std::size_t size, std::string* text)
 {
-    const std::string_view whole = handle.Text().substr(0, size > 0 ? size - 1 : 0);
-    text->assign(whole.substr(0, whole.find('\0')));
+    CopyText(handle.Text(), size, text);
 }
 
 QvxStatus CopyCStringToTextHandle(std::string_view text, QvxHandle* handle)
