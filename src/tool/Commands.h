@@ -16,4 +16,5 @@ int RunDump(CommandWords words);
 int RunCheck(CommandWords words);
 int RunFrame(CommandWords words);
 int RunStats(CommandWords words);
+int RunTree(CommandWords words);
 int RunDemo(CommandWords words);

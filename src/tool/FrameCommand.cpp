@@ -4,12 +4,11 @@
 #include "tool/OpenedFile.h"
 
 #include "QvxToolkit/DecodedFrame.h"
-#include <QBuffer>
-#include <QImage>
 #include <algorithm>
 #include <bit>
 #include <cstring>
 #include <optional>
+#include <png.h>
 #include <vector>
 
 namespace {
@@ -62,22 +61,38 @@ int WriteRaw(const FrameRequest& request)
     return WriteOut(request, frame.fBytes);
 }
 
-// The picture's bytes A, R, G, B become Qt's words 0xAARRGGBB.
-QImage ImageOf(const std::vector<std::uint8_t>& argb, int width, int height)
+// The picture as rows of R, G, B bytes; its own are A, R, G, B.
+struct RgbImage {
+    int fWidth = 0, fHeight = 0;
+    std::vector<std::uint8_t> fBytes;
+};
+
+RgbImage RgbOf(const std::vector<std::uint8_t>& argb, int width, int height)
 {
-    QImage image(width, height, QImage::Format_RGB32);
-    if (image.isNull())
-        return image;
-    const std::uint8_t* from = argb.data();
-    for (int y = 0; y < height; ++y) {
-        auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < width; ++x, from += 4)
-            row[x] = qRgb(from[1], from[2], from[3]);
-    }
+    RgbImage image{width, height, {}};
+    image.fBytes.reserve(argb.size() / 4 * 3);
+    for (std::size_t i = 0; i + 3 < argb.size(); i += 4)
+        image.fBytes.insert(image.fBytes.end(), {argb[i + 1], argb[i + 2], argb[i + 3]});
     return image;
 }
 
-QvxStatus RenderPicture(FramePicture& picture, QImage* image)
+// Empty on failure.
+std::vector<std::uint8_t> PngOf(const RgbImage& image)
+{
+    png_image header{};
+    header.version = PNG_IMAGE_VERSION;
+    header.width = static_cast<png_uint_32>(image.fWidth);
+    header.height = static_cast<png_uint_32>(image.fHeight);
+    header.format = PNG_FORMAT_RGB;
+    png_alloc_size_t size = PNG_IMAGE_PNG_SIZE_MAX(header);
+    std::vector<std::uint8_t> png(size);
+    if (!png_image_write_to_memory(&header, png.data(), &size, 0, image.fBytes.data(), 0, nullptr))
+        return {};
+    png.resize(size);
+    return png;
+}
+
+QvxStatus RenderPicture(FramePicture& picture, RgbImage* image)
 {
     const int width = picture.Width(), height = picture.Height();
     if (width > INT16_MAX || height > INT16_MAX)  // what the bounds of a pixel map can say
@@ -94,8 +109,8 @@ QvxStatus RenderPicture(FramePicture& picture, QImage* image)
     map.cmpSize = 8;
     if (const QvxStatus status = picture.Render(map))
         return status;
-    *image = ImageOf(argb, width, height);
-    return image->isNull() ? kQvxNoMemory : kQvxOK;
+    *image = RgbOf(argb, width, height);
+    return kQvxOK;
 }
 
 int WritePng(const FrameRequest& request)
@@ -113,15 +128,13 @@ int WritePng(const FrameRequest& request)
     if (request.fWindow)
         picture->Transform().RecordVOI(static_cast<float>(request.fWindow->fWidth),
                                        static_cast<float>(request.fWindow->fLevel));
-    QImage image;
+    RgbImage image;
     if (const QvxStatus status = RenderPicture(*picture, &image))
         return Failure(request.fPath, FrameReason(request.fFrame, status));
-    QByteArray png;
-    QBuffer buffer(&png);
-    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG"))
+    const std::vector<std::uint8_t> png = PngOf(image);
+    if (png.empty())
         return Failure(request.fPath, "can't be made a PNG");
-    return WriteOut(request, {reinterpret_cast<const std::uint8_t*>(png.constData()),
-                              static_cast<std::size_t>(png.size())});
+    return WriteOut(request, png);
 }
 
 // What is wrong with the words, or nothing.

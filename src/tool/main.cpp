@@ -18,6 +18,7 @@ constexpr auto kCommands = std::to_array<CommandRow>({
     {"check", RunCheck},
     {"frame", RunFrame},
     {"stats", RunStats},
+    {"tree", RunTree},
     {"demo", RunDemo},
 });
 
@@ -34,6 +35,11 @@ constexpr std::string_view kHelp =
     "                           columns, samples, transfer syntax, minimum, maximum, mean,\n"
     "                           SHA-256 of the stored values; the first, middle and last\n"
     "                           frame unless all are wanted\n"
+    "  tree PATH [--json] [--recursive=on|off] [--ignore-dicomdir=on|off] [--merge-us=on|off]\n"
+    "       [--merge-xa=on|off] [--separate-localizers=on|off]\n"
+    "                           what a file, a folder or a DICOMDIR holds: patients, studies,\n"
+    "                           series, sequences, and what was left out; a switch sets that\n"
+    "                           preference for this run\n"
     "  demo FOLDER              writes a study made by arithmetic\n"
     "\n"
     "  --help, --version\n"
