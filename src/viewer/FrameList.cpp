@@ -5,26 +5,20 @@
 #include <algorithm>
 #include <utility>
 
-bool FrameList::Append(std::string path, int frames)
+bool FrameList::Append(std::string path, const Part& part)
 {
-    const auto end = CheckedAdd(FrameCount(), frames);
-    if (frames < 1 || !end)
+    const auto end = CheckedAdd(FrameCount(), part.count);
+    if (part.count < 1 || part.first < 1 || !CheckedAdd(part.first, part.count) || !end)
         return false;
-    fPaths.push_back(std::move(path));
-    fEnds.push_back(*end);
+    fRuns.push_back({std::move(path), part, *end});
     return true;
-}
-
-int FrameList::FramesOf(std::size_t file) const
-{
-    return file == 0 ? fEnds[0] : fEnds[file] - fEnds[file - 1];
 }
 
 FrameList::Place FrameList::PlaceOf(int index) const
 {
-    const auto end = std::ranges::upper_bound(fEnds, index);
-    const int begin = end == fEnds.begin() ? 0 : *(end - 1);
-    return {static_cast<std::size_t>(end - fEnds.begin()), index - begin + 1};
+    const auto run = std::ranges::upper_bound(fRuns, index, {}, &Run::end);
+    const int begin = run->end - run->part.count;
+    return {static_cast<std::size_t>(run - fRuns.begin()), run->part.first + (index - begin)};
 }
 
 int SteppedIndex(FrameStep step, int current, int count)

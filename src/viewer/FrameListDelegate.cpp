@@ -62,34 +62,14 @@ QSize DeviceSize(const QSizeF& size, double pixelRatio)
 
 }  // namespace
 
-FrameListDelegate::FrameListDelegate(std::vector<std::string> files)
-    : _files(std::move(files)), _pictures(kOpenPicturesLimit), _photos(kPhotosLimit)
+FrameListDelegate::FrameListDelegate(FrameList frames)
+    : _frames(std::move(frames)), _pictures(kOpenPicturesLimit), _photos(kPhotosLimit)
 {
 }
 
-void FrameListDelegate::readHeaders(std::chrono::milliseconds budget, int enough)
+void FrameListDelegate::setFrames(FrameList frames)
 {
-    const auto end = std::chrono::steady_clock::now() + budget;
-    while (!allHeadersRead() && _frames.FrameCount() < enough) {
-        readNextHeader();
-        if (std::chrono::steady_clock::now() >= end)
-            break;
-    }
-}
-
-void FrameListDelegate::readNextHeader()
-{
-    const std::string& path = _files[_nextFile++];
-    std::unique_ptr<FramePicture> picture;
-    std::string why;
-    if (FramePicture::Open(path, &picture, &why) != kQvxOK)
-        LogLine(path + ": " + why);
-    else if (!_frames.Append(path, picture->FrameCount()))
-        LogLine(path + ": too many frames");
-    else if (_frames.FileCount() == 1) {  // it will be shown at once
-        const std::size_t bytes = BytesOf(*picture);
-        _pictures.Put(0, std::move(picture), bytes);
-    }
+    *this = FrameListDelegate(std::move(frames));
 }
 
 FramePicture* FrameListDelegate::pictureOf(std::size_t file)

@@ -1,6 +1,6 @@
-// Serves a photo view with the frames of a list of files: cell i shows frame i of them all. Files
-// are found readable or left out as their headers are read, bit by bit; few stay open, and the
-// pictures shown last are kept. Main thread only.
+// Serves a photo view with the frames of a list of files: cell i shows frame i of them all. A file
+// is opened when a frame of it is first shown; few stay open, and the pictures shown last are kept.
+// Main thread only.
 #pragma once
 #include "app/views/MUPhotoViewDelegate.h"
 #include "dicom_core/imaging/FramePicture.h"
@@ -8,12 +8,9 @@
 #include "viewer/RecentItems.h"
 
 #include <QSizeF>
-#include <chrono>
 #include <cstddef>
-#include <limits>
 #include <memory>
 #include <string>
-#include <vector>
 
 class FrameListDelegate final : public MUPhotoViewDelegate {
 public:
@@ -26,14 +23,9 @@ public:
         double width = 0, level = 0;  // user values
     };
 
-    // `files` in the order in which they are shown. None is opened yet.
-    explicit FrameListDelegate(std::vector<std::string> files);
+    explicit FrameListDelegate(FrameList frames = {});
 
-    // Reads headers until `budget` is used up, all are read, or the list holds `enough` frames.
-    // Files that can't be read get a line in the log.
-    void readHeaders(std::chrono::milliseconds budget,
-                     int enough = std::numeric_limits<int>::max());
-    [[nodiscard]] bool allHeadersRead() const { return _nextFile == _files.size(); }
+    void setFrames(FrameList frames);
     [[nodiscard]] const FrameList& frames() const { return _frames; }
     [[nodiscard]] Caption captionAtIndex(int index);
 
@@ -53,12 +45,9 @@ private:
     };
 
     [[nodiscard]] MUPhoto makePhoto(int index, const QSizeF& contentSize, double pixelRatio);
-    void readNextHeader();
     [[nodiscard]] FramePicture* pictureOf(std::size_t file);
     [[nodiscard]] FramePicture* loadedPicture(const FrameList::Place& place);
 
-    std::vector<std::string> _files;
-    std::size_t _nextFile = 0;  // the first whose header has not been read
     FrameList _frames;
     int _failedIndex = -1;  // the frame asked for last, when it could not be made
     RecentItems<std::size_t, std::unique_ptr<FramePicture>> _pictures;  // by file of `_frames`

@@ -1,35 +1,32 @@
 #include "viewer/ViewerWindow.h"
 
-#include "util/Log.h"
+#include "dicom_core/opening/PathNames.h"
+#include "dicom_core/opening/ZELDcmTree.h"
+#include "viewer/DocumentIcon.h"
+#include "viewer/DroppedPaths.h"
+#include "viewer/ViewerCommands.h"
+#include "viewer/ViewerMenus.h"
+#include "viewer/ViewerWords.h"
 
-#include <QAction>
-#include <QCoreApplication>
-#include <QIcon>
+#include <QDragEnterEvent>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
-#include <QPixmap>
+#include <QMimeData>
 #include <QScreen>
+#include <QSplitter>
 #include <QStatusBar>
+#include <QTreeView>
 #include <cmath>
 #include <filesystem>
 #include <optional>
 
 namespace {
 
-constexpr std::chrono::milliseconds kHeaderSlice{8};  // half a screen refresh
-constexpr int kLabelMargin = 6;                       // view points, left and right
-constexpr QSize kFirstSize(1000, 800);                // view points, where the screen has room
-
-QString Words(const char* key) { return QCoreApplication::translate("Viewer", key); }
-
-QString DisplayText(std::string_view bytes) { return QString::fromStdString(EscapedText(bytes)); }
-
-// A tool tip would take a name with markup in it for rich text.
-QString PlainToolTip(const QString& text)
-{
-    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
-}
+constexpr int kLabelMargin = 6;         // view points, left and right
+constexpr int kListWidth = 300;         // view points, at first
+constexpr QSize kFirstSize(1000, 800);  // view points, where the screen has room
 
 QString NumberText(double value)
 {
@@ -62,32 +59,79 @@ std::optional<FrameStep> StepForKey(int key)
 
 }  // namespace
 
-ViewerWindow::ViewerWindow(FrameListDelegate* delegate)
-    : _delegate(delegate),
+ViewerWindow::ViewerWindow(ViewerCommands* commands, std::unique_ptr<ZELDcmTree> tree,
+                           const std::string& represented, const ZELRecentDocument& document)
+    : _commands(commands),
+      _document(document),
+      _tree(std::move(tree)),
+      _sequences(RowsOfTree(*_tree)),
+      _list(new QTreeView(this)),
       _view(new MUPhotoView(this)),
       _file(addStatusLabel(true)),
       _frame(addStatusLabel(false)),
       _window(addStatusLabel(false))
 {
-    _frame->setToolTip(Words("Frame shown, and how many there are"));
-    _view->setAccessibleName(Words("Picture"));
-    // The bar is there from the start when there will be more, so that no picture has to move.
-    _view->setVerticalScrollBarPolicy(delegate->allHeadersRead() ? Qt::ScrollBarAsNeeded
-                                                                 : Qt::ScrollBarAlwaysOn);
-    _view->setDelegate(delegate);
-    setCentralWidget(_view);
+    setWindowTitle(WindowTitleText(DisplayName(represented)));
+    setAcceptDrops(true);
+    AddFileMenu(this, commands);
+    layOut();
+    _view->setDelegate(&_delegate);
     _view->setFocus();
-
-    auto* close = new QAction(Words("Close"), this);
-    close->setShortcuts({QKeySequence::Close, QKeySequence::Quit});
-    connect(close, &QAction::triggered, this, &QWidget::close);
-    addAction(close);
-
     // Queued: labels are not changed while cells are being painted.
     connect(_view, &MUPhotoView::cellsPainted, this, &ViewerWindow::onPainted,
             Qt::QueuedConnection);
-    connect(&_headers, &QTimer::timeout, this, &ViewerWindow::readMoreHeaders);
+    connect(_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &ViewerWindow::showSequenceAt);
+    _list->setCurrentIndex(_sequences.firstSequence());
     resize(kFirstSize.boundedTo(screen()->availableSize() * 0.9));
+}
+
+ViewerWindow::~ViewerWindow()
+{
+    // The widgets go after the members that they show.
+    _view->setDelegate(nullptr);
+    _list->setModel(nullptr);
+}
+
+void ViewerWindow::layOut()
+{
+    _frame->setToolTip(ViewerWord("Frame shown, and how many there are"));
+    _view->setAccessibleName(ViewerWord("Picture"));
+    layOutList();
+    auto* splitter = new QSplitter(this);
+    splitter->addWidget(_list);
+    splitter->addWidget(_view);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({kListWidth, kFirstSize.width() - kListWidth});
+    setCentralWidget(splitter);
+}
+
+void ViewerWindow::layOutList()
+{
+    _list->setAccessibleName(ViewerWord("Sequences"));
+    _list->setModel(&_sequences);
+    _list->setUniformRowHeights(true);  // or every title would be asked for at once
+    _list->setRootIsDecorated(false);
+    _list->setItemsExpandable(false);
+    _list->setAllColumnsShowFocus(true);
+    // A click chooses; the keys go on paging frames.
+    _list->setFocusPolicy(Qt::TabFocus);
+    QHeaderView* header = _list->header();
+    header->setResizeContentsPrecision(0);  // by the rows that show
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(SequenceListModel::kTitle, QHeaderView::Stretch);
+    header->setSectionsMovable(false);
+    for (int row = 0; row < _sequences.rowCount(); ++row)
+        if (!_sequences.treeRow(row).IsSequence())
+            _list->setFirstColumnSpanned(row, {}, true);
+}
+
+void ViewerWindow::bringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
 }
 
 QLabel* ViewerWindow::addStatusLabel(bool stretched)
@@ -116,47 +160,58 @@ void ViewerWindow::keyPressEvent(QKeyEvent* event)
         _view->scrollToPhotoAtIndex(SteppedIndex(*step, _view->firstVisibleIndex(), count));
 }
 
+void ViewerWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!PathsOfDrag(*event->mimeData()).empty())
+        event->acceptProposedAction();
+}
+
+void ViewerWindow::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    _commands->openPaths(PathsOfDrag(*event->mimeData()));
+}
+
+void ViewerWindow::closeEvent(QCloseEvent* event)
+{
+    QMainWindow::closeEvent(event);
+    _commands->windowClosed();
+}
+
 void ViewerWindow::onPainted()
 {
     updateStatus();
     if (!_painted) {
         _painted = true;
-        setWindowIcon(QIcon(QStringLiteral(":/icons/zelora-viewer.svg")));
-        _headers.start(0);
+        setWindowIcon(DocumentIcon(_document));  // late: reading icons takes longer than painting
     }
-    const bool settled = _delegate->allHeadersRead() && _view->isSettled();
-    if (settled && !_headers.isActive() && !_snapshotPath.isEmpty())
-        saveSnapshot();
+    if (_view->isSettled() && _whenPainted)
+        std::exchange(_whenPainted, nullptr)();
 }
 
-void ViewerWindow::readMoreHeaders()
+void ViewerWindow::showSequenceAt(const QModelIndex& row)
 {
-    _delegate->readHeaders(kHeaderSlice);
-    _view->updatePhotoCount();
+    const TreeRow shown = row.isValid() ? _sequences.treeRow(row.row()) : TreeRow();
+    _delegate.setFrames(shown.IsSequence() ? FramesOfSequence(shown.Sequence()) : FrameList());
+    _view->setDelegate(&_delegate);  // it has other photos now
+    _view->scrollToPhotoAtIndex(0);
     updateStatus();
-    if (!_delegate->allHeadersRead())
-        return;
-    _headers.stop();
-    if (_delegate->frames().FrameCount() == 0) {
-        LogLine("zelora-viewer: nothing could be opened");
-        return QCoreApplication::exit(1);
-    }
-    _view->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    _view->viewport()->update();  // whoever waits for the finished window hears of it
 }
 
 void ViewerWindow::updateStatus()
 {
-    const int count = _view->matrix().photoCount();
-    if (count == 0)
-        return;
+    const int count = _delegate.frames().FrameCount();
+    if (count == 0) {
+        _file->clear();
+        _frame->setText(ViewerWord("There are no frames to show"));
+        return setWindowText({});
+    }
     const int index = _view->firstVisibleIndex();
-    const FrameListDelegate::Caption caption = _delegate->captionAtIndex(index);
+    const FrameListDelegate::Caption caption = _delegate.captionAtIndex(index);
     setFileText(caption);
     const QLocale locale;
-    QString frame = Words("Frame %1 of %2").arg(locale.toString(index + 1), locale.toString(count));
-    if (!_delegate->allHeadersRead())
-        frame += QChar(0x2026);  // still counting
+    const QString frame =
+        ViewerWord("Frame %1 of %2").arg(locale.toString(index + 1), locale.toString(count));
     _frame->setText(frame);
     setWindowText(caption);
     _view->setAccessibleDescription(
@@ -167,36 +222,27 @@ void ViewerWindow::setWindowText(const FrameListDelegate::Caption& caption)
 {
     QString text;
     if (caption.failed)
-        text = Words("This frame can't be shown");
+        text = ViewerWord("This frame can't be shown");
     else if (caption.hasWindow)
-        text =
-            Words("Window %1, level %2").arg(NumberText(caption.width), NumberText(caption.level));
+        text = ViewerWord("Window %1, level %2")
+                   .arg(NumberText(caption.width), NumberText(caption.level));
     _window->setText(text);
     _window->setVisible(!text.isEmpty());
-    _window->setToolTip(caption.hasWindow ? Words("Window width and level of this frame")
+    _window->setToolTip(caption.hasWindow ? ViewerWord("Window width and level of this frame")
                                           : QString());
 }
 
 void ViewerWindow::setFileText(const FrameListDelegate::Caption& caption)
 {
     QString name = DisplayText(std::filesystem::path(caption.path).filename().native());
-    if (caption.framesOfFile > 1 && _delegate->frames().FileCount() > 1) {
+    if (caption.framesOfFile > 1 && _delegate.frames().FileCount() > 1) {
         const QLocale locale;
         name =
-            Words("%1 (%2 of %3)")
+            ViewerWord("%1 (%2 of %3)")
                 .arg(name, locale.toString(caption.frame), locale.toString(caption.framesOfFile));
     }
     _file->setText(
         _file->fontMetrics().elidedText(name, Qt::ElideMiddle, _file->contentsRect().width()));
     _file->setAccessibleName(name);
     _file->setToolTip(PlainToolTip(DisplayText(caption.path)));
-}
-
-void ViewerWindow::saveSnapshot()
-{
-    const QString path = std::exchange(_snapshotPath, QString());
-    const bool saved = grab().save(path, "PNG");
-    if (!saved)
-        LogLine("zelora-viewer: can't save a picture as " + path.toStdString());
-    QCoreApplication::exit(saved ? 0 : 1);
 }

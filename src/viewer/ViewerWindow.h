@@ -1,41 +1,59 @@
-// The window: a photo view of one frame at a time, with a line below that says which. Pages by
-// wheel, scroll bar, arrow keys, Page Up and Down, Home and End. Main thread only.
+// A window on one opened tree: a list of its sequences, a photo view of the chosen one, a frame at
+// a time, and a line below that says which. Pages by wheel, scroll bar, arrow keys, Page Up and
+// Down, Home and End; files and folders dropped on it are opened. Main thread only.
 #pragma once
 #include "app/views/MUPhotoView.h"
+#include "dicom_core/opening/RecentDocuments.h"
 #include "viewer/FrameListDelegate.h"
+#include "viewer/SequenceListModel.h"
 
 #include <QMainWindow>
 #include <QString>
-#include <QTimer>
+#include <functional>
+#include <memory>
 
 class QLabel;
+class QTreeView;
+class ViewerCommands;
+class ZELDcmTree;
 
 class ViewerWindow final : public QMainWindow {
 public:
-    // `delegate` outlives the window; headers that it has not read yet are read after the first
-    // painting, between other events. When none of them was readable the program ends with code 1.
-    explicit ViewerWindow(FrameListDelegate* delegate);
+    // `commands` outlives the window. `represented` is the path (bytes) that the window is named
+    // after.
+    ViewerWindow(ViewerCommands* commands, std::unique_ptr<ZELDcmTree> tree,
+                 const std::string& represented, const ZELRecentDocument& document);
+    ~ViewerWindow() override;
 
-    // Once everything is read and painted, saves a picture of the window there and ends the
-    // program: with code 0, or 1 when it can't be saved.
-    void saveSnapshotTo(const QString& path) { _snapshotPath = path; }
+    [[nodiscard]] const ZELRecentDocument& windowDoc() const { return _document; }
+    void bringToFront();
+    // Calls `painted` once, when the first frame has been painted in its final size.
+    void whenPainted(std::function<void()> painted) { _whenPainted = std::move(painted); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     QLabel* addStatusLabel(bool stretched);
+    void layOut();
+    void layOutList();
     void onPainted();
-    void readMoreHeaders();
+    void showSequenceAt(const QModelIndex& row);
     void updateStatus();
     void setFileText(const FrameListDelegate::Caption& caption);
     void setWindowText(const FrameListDelegate::Caption& caption);
-    void saveSnapshot();
 
-    FrameListDelegate* _delegate;
+    ViewerCommands* _commands;
+    ZELRecentDocument _document;
+    std::unique_ptr<ZELDcmTree> _tree;
+    FrameListDelegate _delegate;
+    SequenceListModel _sequences;  // rows of `_tree`
+    QTreeView* _list;
     MUPhotoView* _view;
     QLabel *_file, *_frame, *_window;
-    QTimer _headers;  // runs while headers are left to read
-    QString _snapshotPath;
+    std::function<void()> _whenPainted;
     bool _painted = false;
 };

@@ -1,4 +1,4 @@
-// Pictures of a list of files: which files count, in which size and colours frames come.
+// Pictures of a list of files: in which size and colours frames come, and what fails alone.
 #include "viewer/FrameListDelegate.h"
 
 #include "fixtures/DicomBuilder.h"
@@ -7,8 +7,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-using namespace std::chrono_literals;
 
 DicomBuilder Base() { return DicomBuilder().Meta(kUidExplicitLittle).CommonHeader(); }
 
@@ -26,50 +24,23 @@ std::string GrayFile(std::uint16_t rows, std::uint16_t columns, int frames)
 }
 
 struct Files {
-    std::string Add(const std::string& name, const std::string& bytes)
+    std::string Add(const std::string& name, const std::string& bytes, int count)
     {
-        paths.push_back(folder.WriteFile(name, bytes));
-        return paths.back();
-    }
-    FrameListDelegate Read()
-    {
-        FrameListDelegate delegate(paths);
-        delegate.readHeaders(10s);
-        return delegate;
+        const std::string path = folder.WriteFile(name, bytes);
+        EXPECT_TRUE(frames.Append(path, {1, count, count}));
+        return path;
     }
     TempFolder folder;
-    std::vector<std::string> paths;
+    FrameList frames;
 };
 
 }  // namespace
 
-TEST(FrameListDelegate, leaves_out_what_it_cannot_read)
-{
-    Files files;
-    files.Add("a", "no DICOM at all");
-    files.Add("b", GrayFile(2, 2, 3));
-    files.Add("c", "");
-    files.Add("d", GrayFile(2, 2, 1));
-    FrameListDelegate delegate(files.paths);
-    EXPECT_EQ(delegate.photoCountForPhotoView(), 0);
-    delegate.readHeaders(10s, 1);
-    EXPECT_EQ(delegate.photoCountForPhotoView(), 3);  // of b; d is left for later
-    EXPECT_FALSE(delegate.allHeadersRead());
-    delegate.readHeaders(0ms);  // a budget of nothing still gets on by a file
-    delegate.readHeaders(10s);
-    EXPECT_TRUE(delegate.allHeadersRead());
-    EXPECT_EQ(delegate.photoCountForPhotoView(), 4);
-    const auto caption = delegate.captionAtIndex(2);
-    EXPECT_EQ(caption.path, files.paths[1]);
-    EXPECT_EQ(caption.frame, 3);
-    EXPECT_EQ(delegate.captionAtIndex(3).path, files.paths[3]);
-}
-
 TEST(FrameListDelegate, fits_large_frames_and_never_enlarges_in_points)
 {
     Files files;
-    files.Add("a", GrayFile(200, 100, 1));
-    FrameListDelegate delegate = files.Read();
+    files.Add("a", GrayFile(200, 100, 1), 1);
+    FrameListDelegate delegate(files.frames);
     struct Row {
         const char* fault;
         QSizeF content;
@@ -98,12 +69,14 @@ TEST(FrameListDelegate, fits_large_frames_and_never_enlarges_in_points)
 TEST(FrameListDelegate, keeps_colours_and_windows_with_their_frames)
 {
     Files files;
-    files.Add("a", GrayFile(1, 4, 2));
-    files.Add("b", Base()
-                       .Image({.rows = 1, .columns = 2, .bits = 8, .samples = 3})
-                       .NativePixels(std::string("\xFF\x80\0\x1\x2\x3", 6), "OB")
-                       .Bytes());
-    FrameListDelegate delegate = files.Read();
+    files.Add("a", GrayFile(1, 4, 2), 2);
+    files.Add("b",
+              Base()
+                  .Image({.rows = 1, .columns = 2, .bits = 8, .samples = 3})
+                  .NativePixels(std::string("\xFF\x80\0\x1\x2\x3", 6), "OB")
+                  .Bytes(),
+              1);
+    FrameListDelegate delegate(files.frames);
     const QSizeF room(100, 100);
     const QImage first = delegate.photoAtIndex(0, room, 1).image;
     const QImage second = delegate.photoAtIndex(1, room, 1).image;
@@ -122,13 +95,26 @@ TEST(FrameListDelegate, keeps_colours_and_windows_with_their_frames)
 TEST(FrameListDelegate, a_file_that_vanished_fails_alone)
 {
     Files files;
-    files.Add("a", GrayFile(2, 2, 1));
-    const std::string gone = files.Add("b", GrayFile(2, 2, 1));
-    FrameListDelegate delegate = files.Read();
+    files.Add("a", GrayFile(2, 2, 1), 1);
+    const std::string gone = files.Add("b", GrayFile(2, 2, 1), 1);
+    FrameListDelegate delegate(files.frames);
     ASSERT_EQ(std::remove(gone.c_str()), 0);
     const QSizeF room(100, 100);
     EXPECT_TRUE(delegate.photoAtIndex(1, room, 1).isNull());
     EXPECT_TRUE(delegate.captionAtIndex(1).failed);
     EXPECT_FALSE(delegate.photoAtIndex(0, room, 1).isNull());
     EXPECT_FALSE(delegate.captionAtIndex(0).failed);
+}
+
+TEST(FrameListDelegate, other_frames_leave_no_pictures_behind)
+{
+    Files files, others;
+    files.Add("a", GrayFile(2, 2, 1), 1);
+    others.Add("b", GrayFile(4, 6, 1), 1);
+    FrameListDelegate delegate(files.frames);
+    const QSizeF room(100, 100);
+    EXPECT_EQ(delegate.photoAtIndex(0, room, 1).image.size(), QSize(2, 2));
+    delegate.setFrames(others.frames);
+    EXPECT_TRUE(delegate.fastPhotoAtIndex(0, room).isNull());
+    EXPECT_EQ(delegate.photoAtIndex(0, room, 1).image.size(), QSize(6, 4));
 }

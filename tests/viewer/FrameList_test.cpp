@@ -9,24 +9,26 @@
 TEST(FrameList, finds_the_file_of_each_frame)
 {
     FrameList list;
-    ASSERT_TRUE(list.Append("a", 1));
-    ASSERT_TRUE(list.Append("b", 3));
-    ASSERT_TRUE(list.Append("c", 2));
-    const std::vector<FrameList::Place> wanted = {{0, 1}, {1, 1}, {1, 2}, {1, 3}, {2, 1}, {2, 2}};
-    ASSERT_EQ(list.FrameCount(), 6);
-    for (int index = 0; index < 6; ++index)
+    ASSERT_TRUE(list.Append("a", {1, 1, 1}));
+    ASSERT_TRUE(list.Append("b", {2, 2, 9}));  // frames 2 and 3 of its nine
+    ASSERT_TRUE(list.Append("c", {1, 2, 2}));
+    const std::vector<FrameList::Place> wanted = {{0, 1}, {1, 2}, {1, 3}, {2, 1}, {2, 2}};
+    ASSERT_EQ(list.FrameCount(), 5);
+    for (int index = 0; index < 5; ++index)
         EXPECT_EQ(list.PlaceOf(index), wanted[static_cast<std::size_t>(index)]) << index;
-    EXPECT_EQ(list.FramesOf(1), 3);
+    EXPECT_EQ(list.FramesOf(1), 9);
 }
 
-TEST(FrameList, takes_no_count_that_would_break_the_sum)
+TEST(FrameList, takes_no_part_that_would_break_the_sums)
 {
     constexpr int kMost = std::numeric_limits<int>::max();
     FrameList list;
-    EXPECT_FALSE(list.Append("none", 0));
-    ASSERT_TRUE(list.Append("a", kMost - 1));
-    EXPECT_FALSE(list.Append("too many", 2));
-    EXPECT_TRUE(list.Append("b", 1));
+    EXPECT_FALSE(list.Append("none", {1, 0, 1}));
+    EXPECT_FALSE(list.Append("frame 0", {0, 1, 1}));
+    EXPECT_FALSE(list.Append("past the last number", {kMost, 1, 1}));
+    ASSERT_TRUE(list.Append("a", {1, kMost - 1, kMost}));
+    EXPECT_FALSE(list.Append("too many", {1, 2, 2}));
+    EXPECT_TRUE(list.Append("b", {1, 1, 1}));
     EXPECT_EQ(list.FileCount(), 2u);
     EXPECT_EQ(list.PlaceOf(kMost - 1), (FrameList::Place{1, 1}));
 }

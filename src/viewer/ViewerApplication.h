@@ -1,0 +1,76 @@
+// The desktop program around the open: its windows, its alerts, and one request after the other.
+// Main thread only.
+#pragma once
+#include "dicom_core/opening/OpenController.h"
+#include "viewer/OpenProgressWindow.h"
+#include "viewer/ViewerCommands.h"
+
+#include <QObject>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+class ViewerWindow;
+class VolumeWatcher;
+struct ZELAlertWords;
+
+class ViewerApplication final : public QObject,
+                                private OpenObserver,
+                                private OpenHost,
+                                private ViewerCommands {
+public:
+    // With a `snapshotPath` nobody is there: no dialogs, no recent documents, no discs. A picture
+    // of the first window goes there and the program ends: with code 0, or 1 if that fails.
+    explicit ViewerApplication(std::optional<QString> snapshotPath);
+    ~ViewerApplication() override;
+
+    // From the event loop: opens `paths` (bytes), or discs and then what the Open dialog gives. The
+    // event loop is left with the code of the program once no window stands: 1 when something
+    // failed to open and nothing else ever opened.
+    void start(std::vector<std::string> paths);
+
+private:
+    // OpenObserver
+    [[nodiscard]] bool docIsAlreadyOpen(const ZELRecentDocument& document) override;
+    void bringDocWindowToFront(const ZELRecentDocument& document) override;
+    void ShowAlertForError(QvxStatus code, const std::string& name) override;
+    void treeIsReady(std::unique_ptr<ZELDcmTree> tree, const std::string& represented,
+                     const ZELRecentDocument& document) override;
+    // OpenHost
+    [[nodiscard]] std::function<void()> eventServer() override;
+    [[nodiscard]] std::optional<Picked> runOpenPanel(const std::string& startFolder) override;
+    [[nodiscard]] bool mainWindowIsViewer() override { return !_windows.empty(); }
+    void callLater(double seconds, std::function<void()> call) override;
+    // ViewerCommands
+    void openFromDialog() override;
+    void openPaths(std::vector<std::string> paths) override;
+    void openRecent(std::size_t index) override;
+    ZELRecentDocuments& recents() override { return _recents; }
+    void windowClosed() override;
+    void quit() override;
+
+    using Job = std::function<void()>;
+    void enqueue(Job job);
+    void runJobs();
+    void openPath(const std::string& path);
+    void diskMounted(const std::string& mountPoint);
+    void finishStart();
+    void leaveIfDone();
+    void saveSnapshot(ViewerWindow* window);
+    void showAlert(const ZELAlertWords& words);  // warning style, modal; nothing unattended
+    [[nodiscard]] ViewerWindow* windowOf(const ZELRecentDocument& document) const;
+    [[nodiscard]] bool isAttended() const { return !_snapshotPath; }
+
+    std::optional<QString> _snapshotPath;
+    ZELRecentDocuments _recents;
+    OpenProgressWindow _progressWindow;
+    ZELOpenController _controller;
+    std::vector<std::unique_ptr<ViewerWindow>> _windows;
+    std::unique_ptr<VolumeWatcher> _volumes;
+    std::deque<Job> _jobs;  // requests, which never run within one another
+    int _laterCalls = 0;    // that have not come to be requests yet
+    bool _jobRuns = false;
+    bool _hasFailed = false, _hasOpened = false;
+};
