@@ -2,12 +2,13 @@
 
 #include <algorithm>
 #include <exception>
+#include <sys/resource.h>
 
 HeaderAhead::HeaderAhead(std::size_t count, PathOf pathOf)
     : fCount(count), fPathOf(std::move(pathOf)), fSlots(std::min(BlockCount(), kWindow))
 {
     if (BlockCount() > 1)
-        StartThreads();
+        StartThreads(std::clamp(std::thread::hardware_concurrency(), 1u, kMostThreads));
 }
 
 HeaderAhead::~HeaderAhead()
@@ -22,11 +23,11 @@ HeaderAhead::~HeaderAhead()
 }
 
 // As many threads as can be had: without any the consumer reads for itself.
-void HeaderAhead::StartThreads()
+void HeaderAhead::StartThreads(std::size_t wanted)
 {
-    const auto wanted = std::min<std::size_t>(BlockCount(), kMostThreads);
-    fThreads.reserve(wanted);
+    wanted = std::min(wanted, BlockCount());
     try {
+        fThreads.reserve(kMostThreads);
         while (fThreads.size() < wanted)
             fThreads.emplace_back([this] { Work(); });
     } catch (const std::exception&) {  // no more threads, or no memory for one
@@ -68,8 +69,20 @@ void HeaderAhead::ReadOne(std::size_t index, ImageHeader* header, const ImageHea
     }
 }
 
+namespace {
+
+// How often this thread has given up its processor to wait for something.
+long WaitsOfThread()
+{
+    rusage usage{};
+    return getrusage(RUSAGE_THREAD, &usage) == 0 ? usage.ru_nvcsw : 0;
+}
+
+}  // namespace
+
 void HeaderAhead::ReadBlock(std::size_t block)
 {
+    const long waitsBefore = WaitsOfThread();
     const std::size_t first = block * kBlock, end = std::min(first + kBlock, fCount);
     // Within a block texts are shared: it goes from thread to thread as a whole.
     const ImageHeader* last = nullptr;
@@ -78,6 +91,9 @@ void HeaderAhead::ReadBlock(std::size_t block)
         ReadOne(index, header, last);
         last = header;
     }
+    // Nothing but the medium makes a thread wait here.
+    if (WaitsOfThread() - waitsBefore > static_cast<long>(end - first) / 2)
+        fMediumIsSlow = true;
 }
 
 bool HeaderAhead::TakeBlock(std::chrono::milliseconds patience)
@@ -113,6 +129,8 @@ ImageHeader* HeaderAhead::Next(std::chrono::milliseconds patience)
         ReadOne(fNext++, &header, nullptr);
         return &header;
     }
+    if (fMediumIsSlow && fThreads.size() < kMostThreads)
+        StartThreads(kMostThreads);
     if (!fHasBlock && !TakeBlock(patience))
         return nullptr;
     const std::size_t at = fNext++ % kBlock;

@@ -1,5 +1,6 @@
 // Reads the headers of many files ahead of whoever wants them, on a few threads, and hands them
-// over in the order of the files.
+// over in the order of the files. As many threads as there are processors keep up with files in
+// memory; more are started when they have to wait for the medium.
 #pragma once
 #include "dicom_core/opening/ImageHeader.h"
 
@@ -25,13 +26,14 @@ public:
     HeaderAhead(const HeaderAhead&) = delete;
     HeaderAhead& operator=(const HeaderAhead&) = delete;
 
-    // The header of the next file, the caller's to take apart until the next call. Null if it has
-    // not come after `patience`, and behind the last file.
+    // The header of the next file, the caller's to take apart until the next call. Its texts may be
+    // shared with headers around it. Null if it has not come after `patience`, and behind the last
+    // file.
     [[nodiscard]] ImageHeader* Next(std::chrono::milliseconds patience);
 
 private:
-    static constexpr std::size_t kBlock = 16;   // files that a thread takes at a time
-    static constexpr std::size_t kWindow = 64;  // blocks that may be under way or waiting
+    static constexpr std::size_t kBlock = 32;   // files that a thread takes at a time
+    static constexpr std::size_t kWindow = 32;  // blocks that may be under way or waiting
     static constexpr unsigned kMostThreads = 6;
 
     struct Block {
@@ -39,7 +41,7 @@ private:
         bool fReady = false;
     };
 
-    void StartThreads();
+    void StartThreads(std::size_t wanted);
     void Work();
     [[nodiscard]] bool WaitForRoom(std::size_t block);
     void ReadBlock(std::size_t block);
@@ -54,6 +56,7 @@ private:
     std::vector<Block> fSlots;
     std::atomic<std::size_t> fNextBlock{0};  // that no thread has taken yet
     std::atomic<bool> fStop{false};
+    std::atomic<bool> fMediumIsSlow{false};  // a thread has waited for it, time and again
 
     std::mutex fMutex;          // guards the next two, and each slot's fReady
     std::size_t fConsumed = 0;  // blocks
