@@ -20,13 +20,19 @@ struct DirRecordWalk {
     std::string fFolder;                       // that holds the directory
     std::unordered_set<QvxElementRef> fTaken;  // no record twice: links can go round in circles
     std::int32_t fFileCount = 0;
+    // References to records that were taken already, or stood at a wrong level: levels that name
+    // each other in a circle have many.
+    std::size_t fMetInVain = 0;
     QvxStatus fFirstFault = kQvxOK;  // of a level that could not be listed
 };
 
 // Adds the records below `record` (None: the root's) to `parent`: patients to the root, studies to
 // patients, series to studies, images to series, and there into sequences. Records of other kinds
 // are left out; one of these kinds at a wrong level is passed over, a stray. A level that can't be
-// listed is left out, and its code kept. 0 or kQvxUserCanceled.
+// listed is left out, and its code kept. Once more than kMostMetInVain references, and half of all,
+// were met in vain, no further level is listed: what stands there is a stray. 0 or
+// kQvxUserCanceled.
+inline constexpr std::size_t kMostMetInVain = 1000;
 [[nodiscard]] QvxStatus Parse_DicomDirTree(DirRecordWalk* walk, QvxElementRef record,
                                            dk_DicomBaseElem* parent);
 // Then those records in use that no link has led to, or to a wrong level. 0 or kQvxUserCanceled.

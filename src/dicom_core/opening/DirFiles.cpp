@@ -38,6 +38,18 @@ QvxStatus StepFor(const std::string& name, OpenSettings* settings)
     });
 }
 
+void LeaveOutUnfound(const dk_DicomBaseElem& file, DirFolders::Match match,
+                     const DirFolders& folders, OpenSettings* settings)
+{
+    if (file.fFileName.Empty()) {
+        settings->dcmDBRoot->LeaveOut(settings->openTargetPath, std::string(kLeftOutNoName));
+        return;
+    }
+    const bool isEmpty = match == DirFolders::Match::Empty;
+    settings->dcmDBRoot->LeaveOut(folders.PathOf(file.fRelPath.View(), file.fFileName.View()),
+                                  std::string(isEmpty ? kLeftOutNoBytes : kLeftOutNotThere));
+}
+
 }  // namespace
 
 void BulkCheckSequenceFiles(dk_SequenceBase* sequence, DirFolders* folders,
@@ -49,10 +61,7 @@ void BulkCheckSequenceFiles(dk_SequenceBase* sequence, DirFolders* folders,
         const DirFolders::Match match =
             folders->Find(child->fRelPath.View(), child->fFileName.View(), &hit);
         if (match != DirFolders::Match::Found) {
-            settings->dcmDBRoot->LeaveOut(
-                folders->PathOf(child->fRelPath.View(), child->fFileName.View()),
-                std::string(match == DirFolders::Match::Empty ? kLeftOutNoBytes
-                                                              : kLeftOutNotThere));
+            LeaveOutUnfound(*child, match, *folders, settings);
             continue;
         }
         child->fFileSpec.fPath = hit.fPath;

@@ -10,13 +10,16 @@
 #include <cstdlib>
 #include <optional>
 #include <sys/stat.h>
+#include <unordered_map>
 
-// One folder; without a path when it isn't there.
+// One folder. It hangs on what the disc calls it, so that records which spell it differently share
+// its listing; what isn't on the disc leaves nothing behind, however many records name it.
 struct RelFilePathRec {
     std::string fPath;
-    std::vector<CatalogEntry> fItems;
+    std::vector<CatalogEntry> fItems;  // ascending by bytes; none if it can't be read
     // Upper-case name to the first item of the listing that bears it.
     std::unordered_map<std::string, std::uint32_t> fFiles, fFolders;
+    std::unordered_map<std::uint32_t, std::unique_ptr<RelFilePathRec>> fBelow;  // those asked for
 };
 
 namespace {
@@ -54,26 +57,64 @@ bool IsPlainComponent(std::string_view component)
            component.find('\0') == std::string_view::npos;
 }
 
+bool IsFile(const CatalogEntry& item)
+{
+    return item.fKind == CatalogKind::File || item.fKind == CatalogKind::LinkToFile;
+}
+
 void Index(RelFilePathRec* folder)
 {
     for (std::uint32_t i = 0; i < folder->fItems.size(); ++i) {
         const CatalogEntry& item = folder->fItems[i];
         if (item.fKind == CatalogKind::Folder)
             folder->fFolders.try_emplace(UpperCase(item.fName), i);
-        else if (item.fKind == CatalogKind::File || item.fKind == CatalogKind::LinkToFile)
+        else if (IsFile(item))
             folder->fFiles.try_emplace(UpperCase(item.fName), i);
     }
 }
 
-// The subfolder, with exactly that name if there is one.
-const CatalogEntry* Subfolder(const RelFilePathRec& folder, std::string_view name)
+// A folder that can't be read is one without files.
+std::unique_ptr<RelFilePathRec> List(std::string path)
 {
-    const auto exact = std::ranges::lower_bound(
+    auto folder = std::make_unique<RelFilePathRec>();
+    folder->fPath = std::move(path);
+    if (!ListFolder(folder->fPath, &folder->fItems))
+        Index(folder.get());
+    return folder;
+}
+
+// The item with exactly that name.
+std::optional<std::uint32_t> ItemNamed(const RelFilePathRec& folder, std::string_view name)
+{
+    const auto found = std::ranges::lower_bound(
         folder.fItems, name, {}, [](const CatalogEntry& e) { return std::string_view(e.fName); });
-    if (exact != folder.fItems.end() && exact->fName == name && exact->fKind == CatalogKind::Folder)
-        return &*exact;
+    if (found == folder.fItems.end() || found->fName != name)
+        return std::nullopt;
+    return static_cast<std::uint32_t>(found - folder.fItems.begin());
+}
+
+std::optional<std::uint32_t> SubfolderOf(const RelFilePathRec& folder, std::string_view name)
+{
+    const auto exact = ItemNamed(folder, name);
+    if (exact && folder.fItems[*exact].fKind == CatalogKind::Folder)
+        return exact;
     const auto found = folder.fFolders.find(UpperCase(name));
-    return found != folder.fFolders.end() ? &folder.fItems[found->second] : nullptr;
+    return found != folder.fFolders.end() ? std::optional(found->second) : std::nullopt;
+}
+
+// On discs that tell case apart, two records may mean two files.
+std::optional<std::uint32_t> FileOf(const RelFilePathRec& folder, std::string_view name)
+{
+    std::optional<std::uint32_t> first = ItemNamed(folder, name);
+    if (first && IsFile(folder.fItems[*first]))
+        return first;
+    first.reset();
+    for (const std::string& form : FormsOfDirName(name)) {
+        const auto found = folder.fFiles.find(form);
+        if (found != folder.fFiles.end() && (!first || found->second < *first))
+            first = found->second;
+    }
+    return first;
 }
 
 }  // namespace
@@ -91,7 +132,10 @@ std::vector<std::string> FormsOfDirName(std::string_view name)
 }
 
 DirFolders::DirFolders(std::string root)
-    : fRoot(std::move(root)), fRealRoot(JoinedPath(RealPath(fRoot), ""))
+    : fRoot(std::move(root)),
+      fRealRoot(JoinedPath(RealPath(fRoot), "")),
+      fListed(List(fRoot)),
+      fLast(fListed.get())
 {
 }
 
@@ -105,50 +149,46 @@ std::string DirFolders::PathBelow(const std::string& root, std::string_view relP
     return JoinedPath(root + tail, std::string(name));
 }
 
-// A folder that isn't there, or can't be read, is one without files.
-std::unique_ptr<RelFilePathRec> DirFolders::List(std::string_view relPath)
+// From the root down, and no further than the disc goes; null for a folder that isn't there.
+RelFilePathRec* DirFolders::Walk(std::string_view relPath)
 {
-    auto folder = std::make_unique<RelFilePathRec>();
-    if (relPath.empty()) {
-        folder->fPath = fRoot;
-    } else {
-        const std::size_t last = relPath.rfind(':');
-        const std::string_view name = relPath.substr(last == std::string_view::npos ? 0 : last + 1);
-        if (last == std::string_view::npos || !IsPlainComponent(name))
-            return folder;
-        const RelFilePathRec& parent = FolderOf(relPath.substr(0, last));
-        const CatalogEntry* entry = Subfolder(parent, name);
-        if (!entry)
-            return folder;
-        folder->fPath = JoinedPath(parent.fPath, entry->fName);
+    RelFilePathRec* folder = fListed.get();
+    while (!relPath.empty()) {
+        if (relPath.front() != ':')
+            return nullptr;
+        relPath.remove_prefix(1);
+        const std::string_view name = relPath.substr(0, relPath.find(':'));
+        relPath.remove_prefix(name.size());
+        const auto item = IsPlainComponent(name) ? SubfolderOf(*folder, name) : std::nullopt;
+        if (!item)
+            return nullptr;
+        auto& below = folder->fBelow[*item];
+        if (!below)
+            below = List(JoinedPath(folder->fPath, folder->fItems[*item].fName));
+        folder = below.get();
     }
-    if (!ListFolder(folder->fPath, &folder->fItems))
-        Index(folder.get());
     return folder;
 }
 
-const RelFilePathRec& DirFolders::FolderOf(std::string_view relPath)
+const RelFilePathRec* DirFolders::FolderOf(std::string_view relPath)
 {
-    const std::string key(relPath);
-    if (const auto known = fFolders.find(key); known != fFolders.end())
-        return *known->second;
-    auto listed = List(relPath);  // may list its parents, too
-    return *fFolders.insert_or_assign(key, std::move(listed)).first->second;
+    if (relPath != fLastRelPath) {
+        fLast = Walk(relPath);
+        fLastRelPath = relPath;
+    }
+    return fLast;
 }
 
 DirFolders::Match DirFolders::Find(std::string_view relPath, std::string_view name, Hit* hit)
 {
-    const RelFilePathRec& folder = FolderOf(relPath);
-    std::optional<std::uint32_t> first;
-    for (const std::string& form : FormsOfDirName(name)) {
-        const auto found = folder.fFiles.find(form);
-        if (found != folder.fFiles.end() && (!first || found->second < *first))
-            first = found->second;
-    }
+    const RelFilePathRec* folder = FolderOf(relPath);
+    if (!folder || name.empty())
+        return Match::NotThere;
+    const auto first = FileOf(*folder, name);
     if (!first)
         return Match::NotThere;
-    const CatalogEntry& item = folder.fItems[*first];
-    const std::string path = JoinedPath(folder.fPath, item.fName);
+    const CatalogEntry& item = folder->fItems[*first];
+    const std::string path = JoinedPath(folder->fPath, item.fName);
     if (item.fKind == CatalogKind::LinkToFile && !RealPath(path).starts_with(fRealRoot))
         return Match::NotThere;
     struct stat info{};

@@ -6,7 +6,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 struct RelFilePathRec;
@@ -23,8 +22,9 @@ public:
     struct Hit {
         std::string fPath, fName;  // as they are on the disc
     };
-    // The first file of the listing that bears a form of `name`. Folders are no files, nor are
-    // devices, pipes, sockets, or links that lead out of the root.
+    // The file of exactly that name, else the first of the listing that bears a form of it. Folders
+    // are no files, nor are devices, pipes, sockets, or links that lead out of the root. Valid for
+    // any bytes; an empty name finds nothing.
     [[nodiscard]] Match Find(std::string_view relPath, std::string_view name, Hit* hit);
 
     // Where a record points, whether anything is there or not.
@@ -36,12 +36,15 @@ public:
                                                std::string_view name);
 
 private:
-    [[nodiscard]] const RelFilePathRec& FolderOf(std::string_view relPath);
-    [[nodiscard]] std::unique_ptr<RelFilePathRec> List(std::string_view relPath);
+    [[nodiscard]] const RelFilePathRec* FolderOf(std::string_view relPath);
+    [[nodiscard]] RelFilePathRec* Walk(std::string_view relPath);
 
     std::string fRoot;
-    std::string fRealRoot;  // with a "/" behind it
-    std::unordered_map<std::string, std::unique_ptr<RelFilePathRec>> fFolders;  // by relative path
+    std::string fRealRoot;                    // with a "/" behind it
+    std::unique_ptr<RelFilePathRec> fListed;  // of the root; it owns those below
+    // Records of one folder mostly follow one another.
+    std::string fLastRelPath;
+    const RelFilePathRec* fLast;
 };
 
 // Upper-case forms under which a file of that name may stand: the name without a "." at its end,

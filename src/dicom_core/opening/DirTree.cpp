@@ -100,8 +100,10 @@ bool IsTreeRecord(const DicomImageFileRec& record)
 QvxStatus MeetRecord(DirLevel* level, QvxElementRef reference)
 {
     DirRecordWalk* walk = level->fWalk;
-    if (!walk->fTaken.insert(reference).second)
+    if (!walk->fTaken.insert(reference).second) {
+        ++walk->fMetInVain;
         return kQvxOK;
+    }
     DicomImageFileRec record;
     if (const QvxStatus status = ReadDicomDirElemRecData(walk->fParser, reference, &record)) {
         LeaveOutRecord(*walk, record, LeftOutReason(status));
@@ -116,6 +118,7 @@ QvxStatus MeetRecord(DirLevel* level, QvxElementRef reference)
     if (record.recType == level->fParent->GetDicomTreeLevel() + 2)
         return TakeRecord(level, &record);
     walk->fTaken.erase(reference);  // a stray
+    ++walk->fMetInVain;
     return kQvxOK;
 }
 
@@ -150,6 +153,8 @@ QvxStatus TakeStray(DirRecordWalk* walk, dk_DicomBaseElem* root, DicomImageFileR
 
 QvxStatus Parse_DicomDirTree(DirRecordWalk* walk, QvxElementRef record, dk_DicomBaseElem* parent)
 {
+    if (walk->fMetInVain > kMostMetInVain + walk->fTaken.size())
+        return kQvxOK;
     QvxElementRefArray records;
     if (const QvxStatus status = Qvx2Reader_GetDIRElementRefs(walk->fParser, record, &records)) {
         if (!walk->fFirstFault)

@@ -15,6 +15,7 @@ inline constexpr std::string_view kLeftOutNotDicom = "not DICOM";
 inline constexpr std::string_view kLeftOutReport = "a structured report";
 inline constexpr std::string_view kLeftOutNoPixels = "no pixel data";
 inline constexpr std::string_view kLeftOutNotThere = "named by the directory, not there";
+inline constexpr std::string_view kLeftOutNoName = "its directory record names no file";
 inline constexpr std::string_view kLeftOutNoBytes = "an empty file";
 inline constexpr std::string_view kLeftOutNoImage = "no image by its directory record";
 inline constexpr std::string_view kLeftOutNotCopied = "not copied to the cache";

@@ -1,7 +1,8 @@
 // From directory records to a tree: levels, sequences, names as discs have them, what is missing,
 // what is damaged.
+#include "dicom_core/opening/DicomDir.h"
+
 #include "dicom_core/opening/Builders.h"
-#include "dicom_core/opening/DirFolders.h"
 #include "dicom_core/opening/OpenSettings.h"
 #include "dicom_core/opening/OpeningFixtures.h"
 #include "dicom_core/opening/ZELDcmTree.h"
@@ -178,6 +179,30 @@ TEST_F(DicomDir, discs_may_change_names)
     }
 }
 
+TEST_F(DicomDir, names_that_differ_in_case_are_two_files)
+{
+    for (const char* name : {"IM1", "im1", "IM2.DCM", "im2", "D/A", "d/A", ".dcm"})
+        Write(name);
+    std::vector<DirectoryRecord> images;
+    for (const char* id : {"im1", "IM1", "im2", "d\\A", "D\\A", ""})
+        images.push_back(Image({id, "CT", "1"}));
+    Open(DirectoryFile({Patient("N", {Series("CT", images)})}));
+    EXPECT_EQ(Found(), "im1,IM1,im2,d/A,D/A");
+    EXPECT_EQ(LeftOut(), "DICOMDIR: its directory record names no file\n");
+}
+
+TEST_F(DicomDir, a_folder_is_listed_once_however_it_is_spelled)
+{
+    Write("DIR/SUB/A");
+    DirFolders folders(folder.Path());
+    DirFolders::Hit hit;
+    EXPECT_EQ(folders.Find(":DIR:SUB", "A", &hit), DirFolders::Match::Found);
+    Write("DIR/SUB/B");  // too late for the listing
+    for (const char* path : {":DIR:SUB", ":dir:Sub", ":Dir:sub"})
+        EXPECT_EQ(folders.Find(path, "B", &hit), DirFolders::Match::NotThere) << path;
+    EXPECT_EQ(folders.Find(":dir:sub", "a", &hit), DirFolders::Match::Found);
+}
+
 TEST_F(DicomDir, what_is_no_file_with_bytes_is_left_out_with_its_branch)
 {
     Write("GOOD");
@@ -244,6 +269,21 @@ TEST_F(DicomDir, records_in_a_circle_and_out_of_reach)
     EXPECT_EQ(Found(), "IM1|IM2|IM0");
     EXPECT_EQ(tree.numberOfPatients(), 3);
     EXPECT_EQ(LeftOut(), "");
+}
+
+// Each names all of them as its studies, until levels are listed no more.
+TEST_F(DicomDir, many_records_above_themselves_cost_no_image)
+{
+    Write("IM0");
+    std::vector<DirectoryRecord> patients(3 * kMostMetInVain, Patient("A", {}));
+    for (DirectoryRecord& patient : patients)
+        patient.below.clear();
+    const std::uint32_t first = FirstRecordOf(DirectoryFile(patients));
+    for (DirectoryRecord& patient : patients)
+        patient.lower = first;
+    patients.push_back(Patient("B", {Series("CT", {Image({"IM0", "CT", "1"})})}));
+    Open(DirectoryFile(patients));
+    EXPECT_EQ(Found(), "IM0");
 }
 
 TEST_F(DicomDir, a_level_that_is_missing_is_made_up)
