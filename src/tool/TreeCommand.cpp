@@ -1,6 +1,7 @@
 // zelora tree PATH [--json] [--recursive=on|off] …
 #include "dicom_core/opening/OpenController.h"
 #include "dicom_core/opening/ZELDcmTree.h"
+#include "dicom_core/progress/NoProgressWindow.h"
 #include "dicom_core/tree/dk_ImageFile.h"
 #include "platform/AlertWords.h"
 #include "prefs/Prefs.h"
@@ -24,24 +25,6 @@ constexpr auto kSwitches = std::to_array<SwitchRow>({
     {"--merge-xa", "MergeSingleFrameXAsFlag"},
     {"--separate-localizers", "SeparateSequenceLocalizerFrames"},
 });
-
-// A progress window that nobody sees.
-class NoProgressWindow final : public ProgressWindow {
-public:
-    void setTitle(const QString&) override {}
-    void setLabel(const QString&) override {}
-    void setSubLabel(const QString&) override {}
-    void setIndeterminate(bool) override {}
-    void setLimits(std::int32_t, std::int32_t) override {}
-    void setValue(double) override {}
-    void setAnimated(bool) override {}
-    void place(double, double, double, double) override {}
-    bool screenSize(double*, double*) const override { return false; }
-    void orderFront() override {}
-    void orderOut() override {}
-    void redraw() override {}
-    void processEvents() override {}
-};
 
 class TreeKeeper final : public OpenObserver {
 public:

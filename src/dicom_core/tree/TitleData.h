@@ -9,6 +9,21 @@
 // title says what it can; null without one. Files of another level are never asked.
 [[nodiscard]] dk_ImageFile* TitleFileOf(dk_DicomBaseElem* level);
 
+// That file while its header is looked at.
+class TitleFileVisit {
+public:
+    explicit TitleFileVisit(dk_DicomBaseElem* level)
+        : fFile(TitleFileOf(level)), fVisit(fFile ? fFile->GetSource() : nullptr)
+    {
+    }
+    [[nodiscard]] dk_ImageFile* File() const { return fFile; }  // not null if the parser isn't
+    [[nodiscard]] ParserHandle Parser() const { return fVisit.Parser(); }
+
+private:
+    dk_ImageFile* fFile;
+    zelParserVisit fVisit;
+};
+
 // All values of a top-level element; none if it is missing or can't be read.
 [[nodiscard]] std::optional<std::string> TitleText(ParserHandle parser, QvxElementTag tag,
                                                    std::size_t size);

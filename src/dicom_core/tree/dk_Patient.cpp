@@ -41,8 +41,7 @@ void dk_Patient::ReadTitleData(bool wide)
     bool& done = wide ? fWideTitleDataRead : fTitleDataRead;
     if (done || (hasName && !fPatientID.Empty() && !fPatientSex.Empty()))
         return;
-    dk_ImageFile* file = TitleFileOf(this);
-    const zelParserVisit visit(file ? file->GetSource() : nullptr);
+    const TitleFileVisit visit(this);
     const ParserHandle parser = visit.Parser();
     if (!parser)
         return;
@@ -52,7 +51,7 @@ void dk_Patient::ReadTitleData(bool wide)
         fPatientName.Assign(*name);
     }
     if (wide)
-        static_cast<void>(Parser_GetElementTextUni(parser, file->GetCharacterEncoding(),
+        static_cast<void>(Parser_GetElementTextUni(parser, visit.File()->GetCharacterEncoding(),
                                                    kPatientName, &fWidePatientName));
     if (const auto id = TitleText(parser, kPatientID, decltype(fPatientID)::kCapacity))
         fPatientID.Assign(*id);

@@ -64,17 +64,16 @@ void dk_Series::ReadTitleData(bool wide)
     const bool described = wide ? fWideSeriesDescription.has_value() : !fSeriesDescription.Empty();
     if (fTitleDataRead || (described && fSeriesNumber != 0 && !fBodyPart.Empty()))
         return;
-    dk_ImageFile* file = TitleFileOf(this);
-    const zelParserVisit visit(file ? file->GetSource() : nullptr);
+    const TitleFileVisit visit(this);
     const ParserHandle parser = visit.Parser();
     if (!parser)
         return;
     if (fSeriesNumber == 0)
-        fSeriesNumber = file->GetSeriesNumber();
+        fSeriesNumber = visit.File()->GetSeriesNumber();
     FillTitleField(parser, kBodyPart, &fBodyPart);
     FillTitleField(parser, kSeriesDescription, &fSeriesDescription);
     if (!fWideSeriesDescription)
-        static_cast<void>(Parser_GetElementTextUni(parser, file->GetCharacterEncoding(),
+        static_cast<void>(Parser_GetElementTextUni(parser, visit.File()->GetCharacterEncoding(),
                                                    kSeriesDescription, &fWideSeriesDescription));
     fTitleDataRead = true;
 }

@@ -65,8 +65,7 @@ void dk_Study::ReadTitleData(bool wide)
     if (done || (described && !fStudyID.Empty() && !fStudyDate.Empty() && !fStudyUID.Empty() &&
                  !fAccessionNumber.Empty()))
         return;
-    dk_ImageFile* file = TitleFileOf(this);
-    const zelParserVisit visit(file ? file->GetSource() : nullptr);
+    const TitleFileVisit visit(this);
     const ParserHandle parser = visit.Parser();
     if (!parser)
         return;
@@ -80,7 +79,7 @@ void dk_Study::ReadTitleData(bool wide)
     FillTitleField(parser, kStudyDate, &fStudyDate);
     FillTitleField(parser, kStudyDescription, &fStudyDescription);
     if (wide && !fWideStudyDescription)
-        static_cast<void>(Parser_GetElementTextUni(parser, file->GetCharacterEncoding(),
+        static_cast<void>(Parser_GetElementTextUni(parser, visit.File()->GetCharacterEncoding(),
                                                    kStudyDescription, &fWideStudyDescription));
     done = true;
 }

@@ -67,12 +67,7 @@ std::vector<std::int32_t> UniquePlaces(ParserHandle parser, const zelWindowEleme
 
 zelWindowElements WindowElementsOfFile(ParserHandle parser)
 {
-    const auto find = [parser](QvxElementTag tag) {
-        QvxElementRef found = QvxElementRef::None;
-        return Qvx2Reader_FindElement(parser, QvxElementRef::None, tag, &found)
-                   ? QvxElementRef::None
-                   : found;
-    };
+    const auto find = [parser](QvxElementTag tag) { return TopLevelElement(parser, tag); };
     return {find(kTagWindowCenter), find(kTagWindowWidth), find(kTagWindowName)};
 }
 

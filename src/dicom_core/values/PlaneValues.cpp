@@ -1,5 +1,7 @@
 #include "dicom_core/values/PlaneValues.h"
 
+#include "dicom_core/values/ValueList.h"
+
 #include "Qvx2Parser/QvxDecimal.h"
 #include <cmath>
 #include <limits>
@@ -107,12 +109,7 @@ std::array<double, 3> CrossProduct(const std::array<double, 3>& row,
 
 zelPlaneElements PlaneElementsOfFile(ParserHandle parser)
 {
-    const auto find = [parser](QvxElementTag tag) {
-        QvxElementRef found = QvxElementRef::None;
-        return Qvx2Reader_FindElement(parser, QvxElementRef::None, tag, &found)
-                   ? QvxElementRef::None
-                   : found;
-    };
+    const auto find = [parser](QvxElementTag tag) { return TopLevelElement(parser, tag); };
     return {find(kTagSpacing), find(kTagPosition), find(kTagOrientation)};
 }
 

@@ -1,5 +1,5 @@
-// All values of a text element in one pass: asking for them one by one costs the square of their
-// number.
+// Elements found, and all values of a text element in one pass: asking for them one by one costs
+// the square of their number.
 #pragma once
 #include "Qvx2Parser/Qvx2Reader.h"
 #include <cstdint>
@@ -10,6 +10,14 @@
 // The first `maximum` bytes of an element as they stand in the file. kQvxNoMemory among others.
 [[nodiscard]] QvxStatus TextOfElement(ParserHandle parser, QvxElementRef element,
                                       std::uint32_t maximum, std::string* text);
+
+// None without one.
+[[nodiscard]] inline QvxElementRef TopLevelElement(ParserHandle parser, QvxElementTag tag)
+{
+    QvxElementRef found = QvxElementRef::None;
+    return Qvx2Reader_FindElement(parser, QvxElementRef::None, tag, &found) ? QvxElementRef::None
+                                                                            : found;
+}
 
 // `take(std::string_view)` for each value, with its blanks, until it answers false.
 template <typename Take>

@@ -1,6 +1,6 @@
 // Small files and a progress window for the tests of opening.
 #pragma once
-#include "dicom_core/progress/ProgressWindow.h"
+#include "dicom_core/progress/NoProgressWindow.h"
 #include "fixtures/DicomBuilder.h"
 
 #include <functional>
@@ -43,21 +43,10 @@ inline std::string EmptyDirectory()
         .Bytes();
 }
 
-// Shows nothing; `fOnEvents` runs whenever the user's events would be let in.
-class SilentProgress : public ProgressWindow {
+// `fOnEvents` runs whenever the user's events would be let in.
+class SilentProgress : public NoProgressWindow {
 public:
-    void setTitle(const QString&) override {}
     void setLabel(const QString& text) override { fLabel = text; }
-    void setSubLabel(const QString&) override {}
-    void setIndeterminate(bool) override {}
-    void setLimits(std::int32_t, std::int32_t) override {}
-    void setValue(double) override {}
-    void setAnimated(bool) override {}
-    void place(double, double, double, double) override {}
-    bool screenSize(double*, double*) const override { return false; }
-    void orderFront() override {}
-    void orderOut() override {}
-    void redraw() override {}
     void processEvents() override
     {
         if (fOnEvents)
