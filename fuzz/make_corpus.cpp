@@ -1,6 +1,7 @@
 // Writes the seed corpus of the fuzzers into a folder: one small file of each form that the reader
 // knows, each with both option bytes in front.
 #include "fixtures/DicomBuilder.h"
+#include "fixtures/DicomDirectory.h"
 
 #include <cstdio>
 #include <fstream>
@@ -36,6 +37,21 @@ DicomBuilder Encapsulated(std::string_view syntax, DicomOffsetTable table)
     return file;
 }
 
+// Two patients of which the second is out of reach, and a level that leads back to the first
+// record.
+std::string Directory()
+{
+    DirectoryRecord image, patient, other;
+    image.type = "IMAGE";
+    image.fileID = "DIR\\IM1";
+    image.lower = 0;
+    patient.type = other.type = "PATIENT";
+    patient.below = {image, image};
+    patient.next = 0;
+    other.below = {image};
+    return DirectoryFile({patient, other});
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -57,6 +73,8 @@ int main(int argc, char** argv)
         Encapsulated(kUidJpeg2000, DicomOffsetTable::Empty).Bytes(),
         Encapsulated(kUidRle, DicomOffsetTable::Empty).NoEnd().Bytes(),
         Base("1.2.840.10008.1.2.1").Sequence(0x0004, 0x1220, {Item(Undefined)}, Undefined).Bytes(),
+        DirectoryOfImages(3),
+        Directory(),
     };
     int number = 0;
     for (const std::string& seed : seeds) {

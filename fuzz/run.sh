@@ -8,13 +8,13 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz --target make_corpus fuzz_walk fuzz_values fuzz_pixelmap
+cmake --build --preset fuzz --target make_corpus fuzz_walk fuzz_values fuzz_pixelmap fuzz_directory
 corpus=build/fuzz/corpus findings=build/fuzz/findings
 mkdir -p "$corpus/seeds" "$findings"
 build/fuzz/bin/make_corpus "$corpus/seeds"
 
 limits=(-rss_limit_mb=2048 -timeout=20 -max_len=16384 "-artifact_prefix=$findings/")
-for target in fuzz_walk fuzz_values fuzz_pixelmap; do
+for target in fuzz_walk fuzz_values fuzz_pixelmap fuzz_directory; do
     mkdir -p "$corpus/$target"
     if [ "${1:-}" = --replay ]; then
         echo "replaying $target"

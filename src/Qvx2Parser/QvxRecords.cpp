@@ -11,7 +11,14 @@ constexpr std::size_t kLargestGuess = 4096;
 thread_local std::size_t tLastCount = 128;
 
 // Small values share rooms, but not where a sanitizer is to see who leaves his own.
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define ZEL_ADDRESS_SANITIZER
+#endif
+#elif defined(__SANITIZE_ADDRESS__)
+#define ZEL_ADDRESS_SANITIZER
+#endif
+#ifdef ZEL_ADDRESS_SANITIZER
 constexpr std::uint64_t kLargestSmallBlock = 0;
 #else
 constexpr std::uint64_t kLargestSmallBlock = 256;
