@@ -3,6 +3,7 @@
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "dicom_core/tree/dk_ImageFile.h"
 #include "dicom_core/values/ParserText.h"
+#include "dicom_core/values/TrimText.h"
 #include "tool/CommandLine.h"
 #include "tool/JsonText.h"
 #include "util/Log.h"
@@ -77,8 +78,10 @@ private:
     {
         const std::string title = patient.CopyDKTitle().toStdString();  // reads the name, too
         fOut.BeginObject();
-        fOut.Key("name").Text(patient.fWidePatientName ? patient.fWidePatientName->toStdString()
-                                                       : patient.fPatientName.Str());
+        std::string name = patient.fWidePatientName ? patient.fWidePatientName->toStdString()
+                                                    : patient.fPatientName.Str();
+        TrimTrailingSpaces(&name);
+        fOut.Key("name").Text(name);
         fOut.Key("id").Text(patient.fPatientID.View());
         fOut.Key("sex").Text(patient.fPatientSex.View());
         fOut.Key("title").Text(title).Key("studies").BeginArray();

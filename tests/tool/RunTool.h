@@ -2,6 +2,7 @@
 #pragma once
 #include "fixtures/TempFolder.h"
 
+#include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
 #include <iterator>
@@ -37,6 +38,9 @@ inline ToolRun RunTool(std::vector<std::string> words)
         if (::dup2(::open(out.c_str(), flags, 0600), 1) < 0 ||
             ::dup2(::open(err.c_str(), flags, 0600), 2) < 0)
             ::_exit(126);
+        ::setenv("HOME", folder.Path().c_str(), 1);  // nobody's preferences
+        ::unsetenv("XDG_CONFIG_HOME");
+        ::unsetenv("XDG_CACHE_HOME");
         ::alarm(30);
         ::execv(arguments[0], arguments.data());
         ::_exit(127);
