@@ -6,6 +6,7 @@
 #include "platform/FileCatalog.h"
 #include "prefs/Prefs.h"
 
+#include <optional>
 #include <strings.h>
 #include <sys/stat.h>
 
@@ -66,9 +67,9 @@ bool IsDicomDirFile(const std::string& path, bool checkName)
     if (path.empty() || (checkName && strcasecmp(LastComponent(path).c_str(), "DICOMDIR") != 0))
         return false;
     QvxReaderPtr parser;
-    if (U_NewDicomParserForFile(path, &parser, true))
+    std::optional<QvxReaderUse> use;
+    if (U_NewDicomParserInUse(FileRef{path}, &parser, &use, true))
         return false;
-    const QvxReaderUse use(parser.get());
     return Parser_FileIsDICOMDIR(parser.get());
 }
 

@@ -3,7 +3,7 @@
 #include "dicom_core/opening/OpenSettings.h"
 
 // 0 at launch; set as soon as the user or the system has asked for anything to be opened.
-extern bool gOpenFileCalled;  // main thread
+extern bool gOpenFileCalled;  // main thread, and the worker it waits for
 
 // Flavor and target of what was asked for; flavor 0 for a path that leads nowhere.
 void U_ShouldWeOpenFileWithPath(const std::string& path, bool skipDICOMDIR, std::int32_t* flavor,

@@ -183,6 +183,8 @@ QvxStatus TakeStrayDirRecords(DirRecordWalk* walk, dk_DicomBaseElem* root)
         return kQvxOK;
     std::vector<std::pair<std::int32_t, QvxElementRef>> strays;
     for (const QvxElementRef reference : QvxRefsOf(records)) {
+        if (const QvxStatus status = U_ProgressCheckForCancel(walk->fSettings))
+            return status;
         DicomImageFileRec record;
         if (!walk->fTaken.contains(reference) &&
             !ReadDicomDirElemRecData(walk->fParser, reference, &record) && IsTreeRecord(record) &&

@@ -32,6 +32,7 @@ dk_Sequence* SplitOffLocalizers(dk_Sequence* whole)
     auto localizers = std::make_unique<dk_LocalaSequence>();
     localizers->ExtractLocalizerFrames(whole);
     auto added = std::make_unique<dk_Series>();
+    added->fTitleDataRead = true;  // its files tell of the other series
     added->AddChild(std::move(localizers));
     study->AddChildAfter(std::move(added), series);
     static_cast<void>(series->RemoveChild(whole));  // with its files: the others have duplicates

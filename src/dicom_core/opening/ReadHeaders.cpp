@@ -27,11 +27,11 @@ std::string ReadRecord(dk_ImageFile* file)
     ImageHeader header;
     header.fStatus = kQvxNotOfKind;
     if (!source->GetDataFile().Empty() && source->IsDICOM()) {
-        header.fStatus = source->LoadDicomParser();
-        if (!header.fStatus) {
-            const QvxReaderUse use(source->GetDicomParser());
-            TakeImageHeader(source->GetDicomParser(), &header, nullptr);
-        }
+        const zelParserVisit visit(source);
+        if (visit.Parser())
+            TakeImageHeader(visit.Parser(), &header, nullptr);
+        else
+            header.fStatus = source->LoadDicomParser();  // says why
     }
     source->ReleaseParser();
     if (header.fVerdict != HeaderVerdict::Image)
@@ -79,5 +79,5 @@ QvxStatus ParseCollectionAndReadFileData(dk_DicomBaseElem* collection,
         settings->dcmDBRoot->LeaveOut(std::move(path), std::move(reason));
         child = collection->DeleteChildAndGetNext(child);
     }
-    return kQvxOK;
+    return U_ProgressCheckForCancel(settings);  // within the last file
 }

@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr char kRecentKey[] = "ZELRecentDocuments";
 constexpr char kTypeKey[] = "docType";
 constexpr char kPathKey[] = "docPath";
 constexpr char kBytesKey[] = "docPathBytes";  // of a path that isn't UTF-8
@@ -70,7 +69,7 @@ ZELRecentDocument::MenuImage ZELRecentDocument::menuImage() const
 void ZELRecentDocuments::loadSavedRecents()
 {
     fList.clear();
-    for (const QVariant& stored : prefs_Store().Array(kRecentKey)) {
+    for (const QVariant& stored : prefs_Store().Array(kPrefsKeyRecentDocuments)) {
         ZELRecentDocument document = FromStored(stored.toMap());
         if (document.docType != kOpenFlavorNone && !document.docPath.empty() &&
             fList.size() < static_cast<std::size_t>(maxZELRecentDocs()))
@@ -86,9 +85,9 @@ void ZELRecentDocuments::saveRecents() const
     for (const ZELRecentDocument& document : fList)
         stored.push_back(StoredForm(document));
     if (stored.isEmpty())
-        prefs_Store().Remove(kRecentKey);
+        prefs_Store().Remove(kPrefsKeyRecentDocuments);
     else
-        prefs_Store().Set(kRecentKey, stored);
+        prefs_Store().Set(kPrefsKeyRecentDocuments, stored);
     prefs_Store().Synchronize();
 }
 

@@ -56,7 +56,8 @@ int ZELOpenProgressWindowController::processMessage(ZELProgressMessageID message
             setIndeterminate(true);
             break;
         case kProgressSubLabel:
-            fWindow->setSubLabel(context->subMessageStr);
+            if (!fUserCancelled)
+                fWindow->setSubLabel(context->subMessageStr);
             break;
         case kProgressLabelThrottled:
             setLabelThrottled(context->messageStr, now);

@@ -191,6 +191,7 @@ TEST_F(BuildTree, splits_localizers_off_their_series)
                                  .Element(0x0008, 0x0018, "UI", "1.2." + number)
                                  .Element(0x0008, 0x0060, "CS", row.modality)
                                  .Element(0x0010, 0x0010, "PN", "N")
+                                 .Element(0x0020, 0x0011, "IS", "7")
                                  .Element(0x0020, 0x0013, "IS", number)
                                  .Image({})
                                  .NativePixels(7)
@@ -205,6 +206,10 @@ TEST_F(BuildTree, splits_localizers_off_their_series)
         ASSERT_EQ(CreatePatientListWithFolder(&settings), kQvxOK);
         PostProcessDicomTree_Localizers(&own);
         EXPECT_EQ(Shape(own.patientTreeRoot()), row.shape);
+        if (auto* added = own.firstSeries()->GetNext()) {  // its files know the number of the other
+            EXPECT_EQ(static_cast<dk_Series*>(added)->GetDKTitle(), "Se #2");
+            EXPECT_EQ(static_cast<dk_Series*>(added)->CopyDKTitle(), "Se #2");
+        }
     }
 }
 

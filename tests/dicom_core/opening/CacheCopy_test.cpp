@@ -3,6 +3,7 @@
 #include "dicom_core/opening/CacheCopy.h"
 
 #include "dicom_core/opening/BuildTree.h"
+#include "dicom_core/opening/Builders.h"
 #include "dicom_core/opening/FolderScan.h"
 #include "dicom_core/opening/LeftOut.h"
 #include "dicom_core/opening/OpeningFixtures.h"
@@ -195,6 +196,25 @@ TEST_F(CacheCopy, that_is_cancelled_ends_at_once_and_leaves_nothing)
     user.join();
     EXPECT_EQ(status, kQvxUserCanceled);
     EXPECT_LT(ended - cancelled, std::chrono::milliseconds(300));
+    EXPECT_TRUE(fs::is_empty(folder));
+}
+
+TEST_F(CacheCopy, that_is_cancelled_at_the_only_file_ends_the_open)
+{
+    settings.openTargetPath = disc.WriteFile("huge", SmallImage());
+    fs::resize_file(settings.openTargetPath, 3072 * kMiB);
+    tree.SetSlowMediaFlag(true);
+    prefs_Set_CopyCDFilesToDisk(true);
+    tree.cleanCacheFiles();  // so that the open makes it anew, under the same name
+    std::thread user([&] {
+        const auto copyHasBegun = [&] { return fs::exists(folder) && !fs::is_empty(folder); };
+        for (int tries = 0; tries < 5000 && !copyHasBegun(); ++tries)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        settings.userCancelled = true;
+    });
+    EXPECT_EQ(CreatePatientListWithFile(&settings), kQvxUserCanceled);
+    user.join();
+    EXPECT_EQ(tree.numberOfPatients(), 0);
     EXPECT_TRUE(fs::is_empty(folder));
 }
 
