@@ -38,6 +38,13 @@ QvxStatus StepFor(const std::string& name, OpenSettings* settings)
     });
 }
 
+// A directory may name itself, and is no image.
+bool IsDirectoryItself(const std::string& path, const OpenSettings& settings)
+{
+    const std::string& directory = settings.openTargetPath;
+    return path == JoinedPath(ParentFolder(directory), LastComponent(directory));
+}
+
 void LeaveOutUnfound(const dk_DicomBaseElem& file, DirFolders::Match match,
                      const DirFolders& folders, OpenSettings* settings)
 {
@@ -62,6 +69,10 @@ void BulkCheckSequenceFiles(dk_SequenceBase* sequence, DirFolders* folders,
             folders->Find(child->fRelPath.View(), child->fFileName.View(), &hit);
         if (match != DirFolders::Match::Found) {
             LeaveOutUnfound(*child, match, *folders, settings);
+            continue;
+        }
+        if (IsDirectoryItself(hit.fPath, *settings)) {
+            settings->dcmDBRoot->LeaveOut(std::move(hit.fPath), std::string(kLeftOutNoPixels));
             continue;
         }
         child->fFileSpec.fPath = hit.fPath;

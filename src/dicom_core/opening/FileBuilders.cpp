@@ -17,17 +17,24 @@ QvxStatus ReadHeadersOf(dk_DicomBaseElem* collection, OpenSettings* settings)
     return ParseCollectionAndReadFileData(collection, cacheFolder, copy, settings);
 }
 
+// With a hundred thousand files each step takes a while.
+void GroupFiles(dk_DicomBaseElem* collection, OpenSettings* settings)
+{
+    SortImageFilesForPatientList(collection);
+    if (U_ProgressCheckForCancel(settings))
+        return;
+    FindIdenticalImageFilesInList(collection, settings->dcmDBRoot);
+    if (!U_ProgressCheckForCancel(settings))
+        BuildDICOMTreeFromFolder(settings->dcmDBRoot->patientTreeRoot(), collection);
+}
+
 // Steps from a collection to the tree; what is asked at the end is whether the user has cancelled.
 QvxStatus BuildFromFolder(dk_DicomBaseElem* collection, OpenSettings* settings)
 {
-    ZELDcmTree* tree = settings->dcmDBRoot;
     const QvxStatus begun = U_ProgressUpdate(settings, kProgressBeginCounted, 0,
                                              collection->GetNumChildren(), 0, {}, {});
-    if (!begun && !ReadHeadersOf(collection, settings) && collection->GetNumChildren() > 0) {
-        SortImageFilesForPatientList(collection);
-        FindIdenticalImageFilesInList(collection, tree);
-        BuildDICOMTreeFromFolder(tree->patientTreeRoot(), collection);
-    }
+    if (!begun && !ReadHeadersOf(collection, settings) && collection->GetNumChildren() > 0)
+        GroupFiles(collection, settings);
     return U_ProgressUpdate(settings, kProgressIndeterminate, 0, 0, 0, {}, {});
 }
 

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::size_t kLongestOtherExtension = 4;
+constexpr std::ptrdiff_t kLongestOtherExtension = 4;  // characters
 constexpr auto kDicomExtensions = std::to_array<std::string_view>({"DCM", "DICM", "DICOM"});
 
 bool IsFolder(const std::string& path)
@@ -32,6 +32,8 @@ std::string UpperCase(std::string_view text)
     });
     return upper;
 }
+
+bool BeginsCharacter(char byte) { return (byte & 0xC0) != 0x80; }  // of UTF-8
 
 // Asked at every click: it must not read a folder of a hundred thousand files to its end.
 bool HoldsSomething(const std::string& folder)
@@ -61,7 +63,8 @@ bool ZELOpenPanelRules::shouldEnableURL(const std::string& path)
     if (dot == std::string::npos || dot + 1 == name.size())
         return true;
     const std::string extension = UpperCase(std::string_view(name).substr(dot + 1));
-    return extension.size() > kLongestOtherExtension ||
+    const auto characters = std::ranges::count_if(extension, BeginsCharacter);
+    return characters > kLongestOtherExtension ||
            std::ranges::find(kDicomExtensions, extension) != kDicomExtensions.end();
 }
 

@@ -8,8 +8,8 @@
 
 class ProgressHandshake {
 public:
-    // Neither is owned. `serveHost` lets other events of the program in while no session is modal;
-    // it may be empty. With a host that has nothing to serve, the loop only waits for the worker.
+    // Neither is owned. `serveHost` lets other events of the program in, at every turn; it may be
+    // empty. With a host that has nothing to serve, the loop only waits for the worker.
     explicit ProgressHandshake(ZELOpenProgressWindowController* controller,
                                std::function<void()> serveHost = nullptr)
         : fController(controller), fServeHost(std::move(serveHost))

@@ -1,6 +1,6 @@
 // Text values of a file as Unicode. Two ways, between which the preference
-// "DecodeTextByCharacterSetFlag" chooses, here and in ElementText.h: on, everything is decoded as the
-// standard says by the character set that the file declares, and a byte that can't be decoded
+// "DecodeTextByCharacterSetFlag" chooses, here and in ElementText.h: on, everything is decoded as
+// the standard says by the character set that the file declares, and a byte that can't be decoded
 // becomes one U+FFFD. Off, the plain way: person names and long strings by a list of encodings,
 // where what can't be decoded adds nothing, and any other text as Mac Roman.
 #pragma once

@@ -88,9 +88,9 @@ TEST_F(Classify, offers_what_may_be_an_image)
         const char* name;
         bool enabled;
     };
-    const Row rows[] = {{"IM1", true},    {"a.dcm", true},   {"a.DiCoM", true},
-                        {"a.jpg", false}, {"a.1234", false}, {"a.12345", true},
-                        {"ends.", true},  {".hidden", true}, {"a.b.txt", false}};
+    const Row rows[] = {{"IM1", true},      {"a.dcm", true},   {"a.DiCoM", true}, {"a.jpg", false},
+                        {"a.1234", false},  {"a.12345", true}, {"ends.", true},   {".hidden", true},
+                        {"a.b.txt", false}, {"a.éééé", false}};
     for (const Row& row : rows)
         EXPECT_EQ(ZELOpenPanelRules::shouldEnableURL(folder.Path(row.name)), row.enabled)
             << row.name;

@@ -213,7 +213,8 @@ TEST_F(DicomDir, what_is_no_file_with_bytes_is_left_out_with_its_branch)
     fs::create_symlink(outside.WriteFile("FILE", SmallImage()), folder.Path() + "/LINK");
     fs::create_symlink(folder.Path() + "/GOOD", folder.Path() + "/INNER");
     std::vector<DirectoryRecord> patients;
-    for (const char* name : {"EMPTY", "FOLDER", "PIPE", "LINK", "GONE", "GOOD", "INNER"})
+    for (const char* name :
+         {"EMPTY", "FOLDER", "PIPE", "LINK", "GONE", "GOOD", "DICOMDIR", "INNER"})
         patients.push_back(Patient(name, {Series("CT", {Image({name, "CT", "1"})})}));
     Open(DirectoryFile(patients));
     EXPECT_EQ(status, kQvxOK);
@@ -224,7 +225,8 @@ TEST_F(DicomDir, what_is_no_file_with_bytes_is_left_out_with_its_branch)
               "FOLDER: named by the directory, not there\n"
               "PIPE: named by the directory, not there\n"
               "LINK: named by the directory, not there\n"
-              "GONE: named by the directory, not there\n");
+              "GONE: named by the directory, not there\n"
+              "DICOMDIR: no pixel data\n");
 }
 
 TEST_F(DicomDir, files_that_are_all_missing_are_no_error_of_the_run)
