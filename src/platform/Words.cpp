@@ -43,6 +43,7 @@ private:
             if (file.fLanguage != language)
                 continue;
             auto translator = std::make_unique<QTranslator>();
+            translator->moveToThread(nullptr);  // the first who asks may be a thread that ends
             if (translator->load(file.fBytes.data(), static_cast<int>(file.fBytes.size())))
                 fTranslators.push_back(std::move(translator));
             return true;
