@@ -307,14 +307,21 @@ QvxStatus Qvx2Reader_FindTopLevelElements(QvxParserRec* reader, std::span<const 
     if (const QvxStatus status = EnsureWalked(reader))
         return status;
     std::ranges::fill(found, QvxElementRef::None);
+    constexpr std::uint64_t kNoTag = UINT64_MAX;
+    const auto keyOf = [&](std::size_t i) {
+        return i < tags.size() ? std::uint64_t{tags[i].Key()} : kNoTag;
+    };
+    const QvxArena& arena = reader->fState->fArena;
     std::size_t next = 0;  // of `tags`, the first that isn't below the element
-    for (QvxIndex i = reader->fState->fListHead; i; i = (*reader->fState)[i].fNext) {
-        const std::uint32_t key = (*reader->fState)[i].Tag().Key();
-        if (next > 0 && key <= tags[next - 1].Key())  // out of order
-            next = 0;
-        while (next < tags.size() && tags[next].Key() < key)
-            ++next;
-        if (next < tags.size() && tags[next].Key() == key)
+    std::uint64_t wanted = keyOf(next), last = 0;
+    for (QvxIndex i = reader->fState->fListHead; i; i = arena.At(i).fNext) {
+        const std::uint64_t key = arena.At(i).Tag().Key();
+        if (key < last)  // out of order
+            wanted = keyOf(next = 0);
+        last = key;
+        while (wanted < key)
+            wanted = keyOf(++next);
+        if (wanted == key)
             found[next] = QvxRefOf(*reader, i);
     }
     return kQvxOK;

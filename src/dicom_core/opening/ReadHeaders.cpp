@@ -70,6 +70,10 @@ QvxStatus ParseCollectionAndReadFileData(dk_DicomBaseElem* collection,
         }
         if (const QvxStatus status = StepFor(file, settings))
             return status;
+        if (!copy && file->GetParserInfoData()) {  // read ahead
+            child = child->GetNext();
+            continue;
+        }
         std::string path = file->GetSource()->GetDataPath();
         std::string reason = TakeIn(file, cacheFolder, copy, settings);
         if (reason.empty()) {
