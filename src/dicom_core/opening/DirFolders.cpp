@@ -3,11 +3,8 @@
 #include "dicom_core/opening/PathNames.h"
 #include "platform/FileCatalog.h"
 
-#include <QString>
-#include <QStringDecoder>
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <optional>
 #include <sys/stat.h>
 #include <unordered_map>
@@ -23,32 +20,6 @@ struct RelFilePathRec {
 };
 
 namespace {
-
-// Of any alphabet if it is UTF-8, else of ASCII alone.
-std::string UpperCase(std::string_view name)
-{
-    const bool plain = std::ranges::all_of(name, [](char c) { return (c & 0x80) == 0; });
-    if (!plain) {
-        QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
-        const QString text = decoder(QByteArrayView(name.data(), std::ssize(name)));
-        if (!decoder.hasError())
-            return text.toUpper().toStdString();
-    }
-    std::string upper(name);
-    std::ranges::transform(upper, upper.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    });
-    return upper;
-}
-
-std::string RealPath(const std::string& path)
-{
-    struct FreeText {
-        void operator()(char* text) const noexcept { std::free(text); }
-    };
-    const std::unique_ptr<char, FreeText> real(realpath(path.c_str(), nullptr));
-    return real ? real.get() : std::string();
-}
 
 bool IsPlainComponent(std::string_view component)
 {
@@ -67,9 +38,9 @@ void Index(RelFilePathRec* folder)
     for (std::uint32_t i = 0; i < folder->fItems.size(); ++i) {
         const CatalogEntry& item = folder->fItems[i];
         if (item.fKind == CatalogKind::Folder)
-            folder->fFolders.try_emplace(UpperCase(item.fName), i);
+            folder->fFolders.try_emplace(UpperCaseName(item.fName), i);
         else if (IsFile(item))
-            folder->fFiles.try_emplace(UpperCase(item.fName), i);
+            folder->fFiles.try_emplace(UpperCaseName(item.fName), i);
     }
 }
 
@@ -98,7 +69,7 @@ std::optional<std::uint32_t> SubfolderOf(const RelFilePathRec& folder, std::stri
     const auto exact = ItemNamed(folder, name);
     if (exact && folder.fItems[*exact].fKind == CatalogKind::Folder)
         return exact;
-    const auto found = folder.fFolders.find(UpperCase(name));
+    const auto found = folder.fFolders.find(UpperCaseName(name));
     return found != folder.fFolders.end() ? std::optional(found->second) : std::nullopt;
 }
 
@@ -123,7 +94,7 @@ std::vector<std::string> FormsOfDirName(std::string_view name)
 {
     if (name.ends_with('.'))
         name.remove_suffix(1);
-    const std::string bare = UpperCase(name);
+    const std::string bare = UpperCaseName(name);
     std::vector<std::string> forms{bare, bare + '.'};
     const std::size_t dot = bare.rfind('.');
     if (dot == std::string::npos || bare.substr(dot + 1) != "DCM")
@@ -133,7 +104,7 @@ std::vector<std::string> FormsOfDirName(std::string_view name)
 
 DirFolders::DirFolders(std::string root)
     : fRoot(std::move(root)),
-      fRealRoot(JoinedPath(RealPath(fRoot), "")),
+      fRealRoot(RealFolder(fRoot)),
       fListed(List(fRoot)),
       fLast(fListed.get())
 {
@@ -189,7 +160,7 @@ DirFolders::Match DirFolders::Find(std::string_view relPath, std::string_view na
         return Match::NotThere;
     const CatalogEntry& item = folder->fItems[*first];
     const std::string path = JoinedPath(folder->fPath, item.fName);
-    if (item.fKind == CatalogKind::LinkToFile && !RealPath(path).starts_with(fRealRoot))
+    if (item.fKind == CatalogKind::LinkToFile && !LeadsInto(path, fRealRoot))
         return Match::NotThere;
     struct stat info{};
     if (stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode))

@@ -4,19 +4,7 @@
 #include "dicom_core/opening/PathNames.h"
 #include "dicom_core/opening/ZELDcmTree.h"
 
-#include <cstdlib>
-#include <memory>
-
 namespace {
-
-std::string RealPath(const std::string& path)
-{
-    struct FreeText {
-        void operator()(char* text) const noexcept { std::free(text); }
-    };
-    const std::unique_ptr<char, FreeText> real(realpath(path.c_str(), nullptr));
-    return real ? real.get() : std::string();
-}
 
 // Walks the folders with a stack of its own, so that their depth costs no stack of the thread's.
 class Lister {
@@ -70,8 +58,8 @@ void Lister::EnterSubfolder(const ListedEntry& folder)
 bool Lister::LeadsIntoRoot(const std::string& link)
 {
     if (fRealRoot.empty())
-        fRealRoot = JoinedPath(RealPath(fListing->fFolders.front()), "");
-    return !fRealRoot.empty() && RealPath(link).starts_with(fRealRoot);
+        fRealRoot = RealFolder(fListing->fFolders.front());
+    return LeadsInto(link, fRealRoot);
 }
 
 std::string_view Lister::WhyFolderLeftOut(const CatalogEntry& entry) const

@@ -24,15 +24,6 @@ bool IsFolder(const std::string& path)
     return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
-std::string UpperCase(std::string_view text)
-{
-    std::string upper(text);
-    std::ranges::transform(upper, upper.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    });
-    return upper;
-}
-
 bool BeginsCharacter(char byte) { return (byte & 0xC0) != 0x80; }  // of UTF-8
 
 // Asked at every click: it must not read a folder of a hundred thousand files to its end.
@@ -62,7 +53,7 @@ bool ZELOpenPanelRules::shouldEnableURL(const std::string& path)
     const std::size_t dot = name.rfind('.');
     if (dot == std::string::npos || dot + 1 == name.size())
         return true;
-    const std::string extension = UpperCase(std::string_view(name).substr(dot + 1));
+    const std::string extension = UpperCaseName(std::string_view(name).substr(dot + 1));
     const auto characters = std::ranges::count_if(extension, BeginsCharacter);
     return characters > kLongestOtherExtension ||
            std::ranges::find(kDicomExtensions, extension) != kDicomExtensions.end();
