@@ -1,5 +1,10 @@
 # zel_add_module(NAME folder SOURCES … [PUBLIC …] [PRIVATE …] [QT …] [LIBS …] [TESTS …])
 # zel_add_program(NAME folder OUTPUT name SOURCES … [PRIVATE …] [QT …])
+# zel_add_codec(NAME name SOURCES … LIBS …)
+#
+# A codec is a module of its own, lib/zelora/codec-NAME.so, opened when the first frame needs it: for
+# libraries that take long to load. Its sources stand in src/QvxToolkit/modules; they link nothing of
+# ours and see the toolkit's headers only. Whoever links QvxToolkit has it built.
 #
 # One target for one folder under src/. PUBLIC and PRIVATE name other folders; LIBS names outside
 # libraries, QT the components of Qt 6. A dependency that does not stand on a lower floor of
@@ -93,4 +98,17 @@ function(zel_add_program)
     target_link_libraries(${target} PRIVATE zel_options ${M_LIBS})
     zel_link_folders(${target} ${M_NAME} PRIVATE ${M_PRIVATE})
     zel_link_qt(${target} ${M_QT})
+endfunction()
+
+function(zel_add_codec)
+    cmake_parse_arguments(M "" "NAME" "SOURCES;LIBS" ${ARGN})
+    set(target zel_codec_${M_NAME})
+    list(TRANSFORM M_SOURCES PREPEND ${CMAKE_SOURCE_DIR}/src/QvxToolkit/modules/)
+    add_library(${target} MODULE ${M_SOURCES})
+    set_target_properties(${target} PROPERTIES
+        PREFIX "" OUTPUT_NAME codec-${M_NAME} CXX_VISIBILITY_PRESET hidden
+        LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib/zelora)
+    target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${target} PRIVATE zel_options ${M_LIBS})
+    add_dependencies(zel_QvxToolkit ${target})
 endfunction()

@@ -8,13 +8,15 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz --target make_corpus fuzz_walk fuzz_values fuzz_pixelmap fuzz_directory
+cmake --build --preset fuzz --target make_corpus make_clips \
+    fuzz_walk fuzz_values fuzz_pixelmap fuzz_directory fuzz_video
 corpus=build/fuzz/corpus findings=build/fuzz/findings
 mkdir -p "$corpus/seeds" "$findings"
 build/fuzz/bin/make_corpus "$corpus/seeds"
+build/fuzz/bin/make_clips "$corpus/seeds"
 
 limits=(-rss_limit_mb=2048 -timeout=20 -max_len=16384 "-artifact_prefix=$findings/")
-for target in fuzz_walk fuzz_values fuzz_pixelmap fuzz_directory; do
+for target in fuzz_walk fuzz_values fuzz_pixelmap fuzz_directory fuzz_video; do
     mkdir -p "$corpus/$target"
     if [ "${1:-}" = --replay ]; then
         echo "replaying $target"

@@ -81,6 +81,10 @@ private:
 // Which state of which file the reader has opened; unknown for bytes in memory, and for null.
 [[nodiscard]] FileIdentity Qvx2Reader_FileIdentity(const QvxParserRec* reader);
 
+// What a decoder keeps with the file between frames: one place, empty at first and again once the
+// reader is given another file; dropped when it closes. Null for null.
+[[nodiscard]] std::shared_ptr<void>* Qvx2Reader_Attachment(QvxParserRec* reader);
+
 // ---- find elements ----------------------------------------------------------------------------
 
 // Makes sure that the list and the state are there: walks on the first call, maps the frames when

@@ -95,6 +95,7 @@ QvxStatus Qvx2Reader_SetInputFileURL(QvxParserRec* reader, const char* path, std
         return kQvxBadArgument;
     if (!path)
         return kQvxNoDataRef;
+    reader->fAttachment.reset();
     DropWalk(reader);
     reader->fStream.reset();
     if (std::strlen(path) >= kMaxPathBytes)
@@ -223,6 +224,11 @@ std::uint32_t Qvx2Reader_FileSize(const QvxParserRec* reader)
 FileIdentity Qvx2Reader_FileIdentity(const QvxParserRec* reader)
 {
     return reader && reader->fStream ? reader->fStream->Identity() : FileIdentity{};
+}
+
+std::shared_ptr<void>* Qvx2Reader_Attachment(QvxParserRec* reader)
+{
+    return reader ? &reader->fAttachment : nullptr;
 }
 
 std::string_view QvxTransferSyntaxUID(std::uint32_t index)

@@ -226,8 +226,10 @@ QvxIndex MapEncapsulated(std::uint32_t* offset, ExtraHeaderDataRec& state, int l
         state.fImageForm = kImageFormEncapsulated;
     state.fOffsetTableOffset = *offset;
     bool hasTable = length != 0 && length != kUndefinedLength;
-    if (hasTable && length > 4 && state.fNominalFrames == 1 && state.Wants(kWalkOneFrameTakesAll)) {
-        *offset = AdvancedOffset(*offset, length);  // a table of fragments, not of frames
+    const bool ofFragments = length > 4 && state.fNominalFrames == 1;
+    const bool ofStream = length == 4 && state.fNominalFrames > 1;  // a clip's: it begins at 0
+    if (hasTable && (ofFragments || ofStream) && state.Wants(kWalkOneFrameTakesAll)) {
+        *offset = AdvancedOffset(*offset, length);  // a table of something else than frames
         hasTable = false;
     }
     if (hasTable)

@@ -39,6 +39,7 @@ struct QvxParserRec {
     QvxIndex fDirectoryRecords = 0;                  // first child of (0004,1220), once asked for
     std::vector<QvxDirectoryRecord> fDirectoryList;  // all its items, from then on
     std::uint32_t fDirectoryLevels = 0;              // levels listed so far
+    std::shared_ptr<void> fAttachment;  // what a decoder keeps with the file; last: dropped first
 };
 
 // The index that a reference names, 0 with kQvxBadChain for one that isn't this reader's.

@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 inline constexpr std::uint32_t kSignatureVOIBlitter = FourCC("VBLT");
 
@@ -64,12 +65,28 @@ QvxStatus Qvx2_VOIBlit_GetPixelBounds(const VOIBlitter* blit, std::int32_t* mini
 //                  than the bounds, bounds not set under PixelBounds
 // kQvxUnsupported  any other pair, or the in-place case above
 // kQvxSeekFailed   a map without pixels to lock, or a clipping option not chosen
-// kQvxNoMemory     no room for the table; no pixel is written
+// kQvxNoMemory     no room for a table where one is needed; no pixel is written
 // Both maps are locked meanwhile and get their lock state back in every case.
 [[nodiscard]] QvxStatus Qvx2_VOIBlit_VOICopyPixels(const VOIBlitter* blit, std::int32_t level,
                                                    std::uint32_t width, PixMap* source,
                                                    PixMap* destination, const Rect* sourceRect,
                                                    const Rect* destinationRect);
+
+// A curve that is no straight line, as a table: grays for the display values `first`, `first` + 1
+// and so on, inverted as in format 40 (255 is black). Values below and above take the nearest
+// entry.
+struct VOICurve {
+    std::int32_t first = 0;                 // may be below 0
+    std::span<const std::uint8_t> entries;  // 1 to 65536
+};
+
+// The copy above through `curve` in place of a window; the clipping option plays no part. The pairs
+// of formats are the same, and 8 and 40 go to 32 too. The display value of an 8-bit pixel is 255
+// less its byte. Codes as above; kQvxBadArgument for a curve of another length.
+[[nodiscard]] QvxStatus Qvx2_VOIBlit_TableCopyPixels(const VOIBlitter* blit, const VOICurve& curve,
+                                                     PixMap* source, PixMap* destination,
+                                                     const Rect* sourceRect,
+                                                     const Rect* destinationRect);
 
 // Converts one value, see VOIValues.h; reads one of the two and writes the other.
 // kQvxBadArgument for another direction, a missing instance or address; kQvxMalformed for

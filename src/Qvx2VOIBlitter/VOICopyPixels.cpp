@@ -7,21 +7,29 @@ namespace {
 
 using Kernel = QvxStatus (*)(const VOIParams&, const VOIPixels&);
 
+// One pair of formats. `window` null: the pair has a kernel for curves only.
 struct FormatPair {
     std::uint32_t source, destination;
     int sourceBytes, destinationBytes;  // a pixel
-    Kernel kernel;
+    Kernel window;
+    Kernel curve;  // takes a ready table
 };
 // clang-format off
+constexpr auto kWindow8 = VOIBlitterBase_ApplyVOITransformation8to8_256;
+constexpr auto kWindowMixed = VOIBlitterBase_ApplyVOITransformation32MixedTo32ARGB;
+constexpr auto kWindow16 = VOIBlitterBase_ApplyVOITransformation16to8;
+constexpr auto kWindow16ARGB = VOIBlitterBase_ApplyVOITransformation16to32ARGB;
 constexpr auto kFormatPairs = std::to_array<FormatPair>({
-    {kPixelFormatIndexed8, kPixelFormatIndexed8, 1, 1, VOIBlitterBase_ApplyVOITransformation8to8_256},
-    {kPixelFormatIndexed8, kPixelFormatGray8,    1, 1, VOIBlitterBase_ApplyVOITransformation8to8_256},
-    {kPixelFormatGray8,    kPixelFormatIndexed8, 1, 1, VOIBlitterBase_ApplyVOITransformation8to8_256},
-    {kPixelFormatGray8,    kPixelFormatGray8,    1, 1, VOIBlitterBase_ApplyVOITransformation8to8_256},
-    {kPixelFormatMixed32,  kPixelFormatARGB32,   4, 4, VOIBlitterBase_ApplyVOITransformation32MixedTo32ARGB},
-    {kPixelFormatGray16,   kPixelFormatIndexed8, 2, 1, VOIBlitterBase_ApplyVOITransformation16to8},
-    {kPixelFormatGray16,   kPixelFormatGray8,    2, 1, VOIBlitterBase_ApplyVOITransformation16to8},
-    {kPixelFormatGray16,   kPixelFormatARGB32,   2, 4, VOIBlitterBase_ApplyVOITransformation16to32ARGB},
+    {kPixelFormatIndexed8, kPixelFormatIndexed8, 1, 1, kWindow8,      ApplyCurve8to8},
+    {kPixelFormatIndexed8, kPixelFormatGray8,    1, 1, kWindow8,      ApplyCurve8to8},
+    {kPixelFormatGray8,    kPixelFormatIndexed8, 1, 1, kWindow8,      ApplyCurve8to8},
+    {kPixelFormatGray8,    kPixelFormatGray8,    1, 1, kWindow8,      ApplyCurve8to8},
+    {kPixelFormatIndexed8, kPixelFormatARGB32,   1, 4, nullptr,       ApplyCurve8to32ARGB},
+    {kPixelFormatGray8,    kPixelFormatARGB32,   1, 4, nullptr,       ApplyCurve8to32ARGB},
+    {kPixelFormatMixed32,  kPixelFormatARGB32,   4, 4, kWindowMixed,  kWindowMixed},
+    {kPixelFormatGray16,   kPixelFormatIndexed8, 2, 1, kWindow16,     kWindow16},
+    {kPixelFormatGray16,   kPixelFormatGray8,    2, 1, kWindow16,     kWindow16},
+    {kPixelFormatGray16,   kPixelFormatARGB32,   2, 4, kWindow16ARGB, kWindow16ARGB},
 });
 // clang-format on
 
@@ -66,11 +74,12 @@ std::ptrdiff_t OffsetOf(const PixMap& map, const Rect& r, int bytesPerPixel)
            std::ptrdiff_t{r.left - map.bounds.left} * bytesPerPixel;
 }
 
-}  // namespace
-
-QvxStatus VOIBlitterBase_VOICopyPixels(const VOIBlitter* blit, std::int32_t level,
-                                       std::uint32_t width, PixMap* source, PixMap* destination,
-                                       const Rect* sourceRect, const Rect* destinationRect)
+// The copy of both operations: `kernel` is the column of the table to run, `getParams` settles what
+// it is run with once all else is known to be right.
+template <typename GetParams>
+QvxStatus CopyPixels(const VOIBlitter* blit, Kernel FormatPair::* kernel, PixMap* source,
+                     PixMap* destination, const Rect* sourceRect, const Rect* destinationRect,
+                     GetParams getParams)
 {
     if (!IsVOIBlitter(blit) || !source || !destination || !sourceRect || !destinationRect)
         return kQvxBadArgument;
@@ -81,7 +90,7 @@ QvxStatus VOIBlitterBase_VOICopyPixels(const VOIBlitter* blit, std::int32_t leve
     const auto pair = std::ranges::find_if(kFormatPairs, [&](const FormatPair& row) {
         return row.source == FormatOf(*source) && row.destination == FormatOf(*destination);
     });
-    if (pair == kFormatPairs.end())
+    if (pair == kFormatPairs.end() || !((*pair).*kernel))
         return kQvxUnsupported;
     if (!RectUsable(*source, from) || !RectUsable(*destination, to) ||
         !RowsHoldBounds(*source, pair->sourceBytes) ||
@@ -93,11 +102,40 @@ QvxStatus VOIBlitterBase_VOICopyPixels(const VOIBlitter* blit, std::int32_t leve
     if (!sourceLock.Held() || !destinationLock.Held())
         return kQvxSeekFailed;
     VOIParams params;
-    if (const QvxStatus status = VOIBlitterBase_GetVOIBounds(blit, level, width, &params.bounds))
+    if (const QvxStatus status = getParams(&params))
         return status;
-    return pair->kernel(params,
-                        {from.right - from.left, from.bottom - from.top,
-                         source->baseAddr + OffsetOf(*source, from, pair->sourceBytes),
-                         destination->baseAddr + OffsetOf(*destination, to, pair->destinationBytes),
-                         source->rowBytes, destination->rowBytes});
+    return ((*pair).*kernel)(
+        params, {from.right - from.left, from.bottom - from.top,
+                 source->baseAddr + OffsetOf(*source, from, pair->sourceBytes),
+                 destination->baseAddr + OffsetOf(*destination, to, pair->destinationBytes),
+                 source->rowBytes, destination->rowBytes});
+}
+
+}  // namespace
+
+QvxStatus VOIBlitterBase_VOICopyPixels(const VOIBlitter* blit, std::int32_t level,
+                                       std::uint32_t width, PixMap* source, PixMap* destination,
+                                       const Rect* sourceRect, const Rect* destinationRect)
+{
+    return CopyPixels(blit, &FormatPair::window, source, destination, sourceRect, destinationRect,
+                      [&](VOIParams* params) {
+                          return VOIBlitterBase_GetVOIBounds(blit, level, width, &params->bounds);
+                      });
+}
+
+QvxStatus Qvx2_VOIBlit_TableCopyPixels(const VOIBlitter* blit, const VOICurve& curve,
+                                       PixMap* source, PixMap* destination, const Rect* sourceRect,
+                                       const Rect* destinationRect)
+{
+    constexpr std::size_t kMostEntries = 0x10000;
+    const std::size_t count = curve.entries.size();
+    if (count < 1 || count > kMostEntries)
+        return kQvxBadArgument;
+    return CopyPixels(blit, &FormatPair::curve, source, destination, sourceRect, destinationRect,
+                      [&](VOIParams* params) {
+                          const auto last = curve.first + static_cast<std::int64_t>(count) - 1;
+                          *params = {
+                              VOIParamTag::BoundsAndTable, {curve.first, last}, curve.entries};
+                          return kQvxOK;
+                      });
 }

@@ -1,8 +1,10 @@
 #include "Qvx2VOIBlitter/VOIHostKernels.h"
 
+#include "Qvx2VOIBlitter/VOIVectorRows.h"
 #include <algorithm>
 #include <cstring>
 #include <new>
+#include <type_traits>
 
 namespace {
 
@@ -73,12 +75,29 @@ bool PixelsUsable(const VOIHostPixels& pixels)
            pixels.destinationRowBytes >= pixels.width;
 }
 
+// A window whose table is a plain ramp, without the table; words of `wordFlip` 0x8000 are signed.
+// False with nothing written if it needs the table.
+bool ApplyAsRamp(const VOIHostPixels& pixels, std::uint16_t wordFlip)
+{
+    const VOIBounds bounds{std::int64_t{pixels.lo} + wordFlip, std::int64_t{pixels.hi} + wordFlip};
+    const VOIRampUse use{.bigEndian = false, .wordFlip = wordFlip, .grayFlip = 0};
+    VOIRamp ramp;
+    return bounds.hi > bounds.lo && bounds.hi - bounds.lo <= kLastWholeLength &&
+           MakeVOIRamp(bounds, use, &ramp) &&
+           VOIRampRows16to8(
+               ramp,
+               {pixels.width, pixels.height, static_cast<const std::uint8_t*>(pixels.source),
+                pixels.destination, std::ptrdiff_t{pixels.width} * 2, pixels.destinationRowBytes});
+}
+
 // Runs `row(scale, source, destination, width)` over all rows.
 template <typename Word, typename Row>
 QvxStatus ApplyToRows(const VOIHostPixels& pixels, Row row)
 {
     if (!PixelsUsable(pixels))
         return kQvxBadArgument;
+    if (ApplyAsRamp(pixels, std::is_signed_v<Word> ? 0x8000 : 0))
+        return kQvxOK;
     HostScale<Word> scale;
     if (const QvxStatus status = scale.Set(pixels.lo, pixels.hi))
         return status;

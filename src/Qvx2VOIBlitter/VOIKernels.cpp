@@ -1,7 +1,6 @@
 #include "Qvx2VOIBlitter/VOIKernels.h"
 
-#include "util/ByteOrder.h"
-
+#include "Qvx2VOIBlitter/VOIVectorRows.h"
 #include <algorithm>
 #include <cstring>
 
@@ -11,33 +10,25 @@ constexpr std::uint32_t kOpaqueBlack = 0xFF000000;
 constexpr std::uint32_t kGrayStep = 0x00010101;    // one gray level in a 32-bit pixel
 constexpr std::uint32_t kLastGrayWord = 0xFFFFFF;  // mixed words above it are colour
 
-// A table as the loops use it: a value clamped to `first` to `last` is looked up less `first`.
-struct Lookup {
-    const std::uint8_t* entries = nullptr;
-    std::uint32_t first = 0, last = 0;
-
-    [[nodiscard]] std::uint8_t operator[](std::uint32_t value) const
-    {
-        return entries[std::min(std::max(value, first), last) - first];
-    }
-    [[nodiscard]] std::uint32_t Pixel(std::uint32_t value) const
-    {
-        return kOpaqueBlack + kGrayStep * (255U - (*this)[value]);
-    }
-};
-
-Lookup LookupFrom(const std::uint8_t* entries, std::int64_t first, std::size_t count)
+std::uint8_t EntryOf(const VOILookup& lookup, std::uint32_t value)
 {
-    const auto from = static_cast<std::uint32_t>(std::clamp<std::int64_t>(first, 0, 0xFFFF));
-    return {entries, from, from + static_cast<std::uint32_t>(count) - 1};
+    return lookup
+        .entries[std::clamp<std::uint32_t>(value, lookup.first, lookup.last) - lookup.first];
+}
+
+VOILookup LookupFrom(const std::uint8_t* entries, std::int64_t first, std::size_t count)
+{
+    const auto from = static_cast<std::uint16_t>(std::clamp<std::int64_t>(first, 0, 0xFFFF));
+    return {entries, from, static_cast<std::uint16_t>(from + count - 1)};
 }
 
 QvxStatus CheckParams(const VOIParams& params)
 {
     switch (params.tag) {
         case VOIParamTag::Bounds:
-        case VOIParamTag::BoundsAndTable:
             return params.bounds.hi > params.bounds.lo ? kQvxOK : kQvxBadArgument;
+        case VOIParamTag::BoundsAndTable:
+            return params.bounds.hi >= params.bounds.lo ? kQvxOK : kQvxBadArgument;
         case VOIParamTag::Other:
             return kQvxUnsupported;
     }
@@ -45,7 +36,7 @@ QvxStatus CheckParams(const VOIParams& params)
 }
 
 // The look-up of a 16-bit kernel; `made` keeps the table if one must be made.
-QvxStatus GetLookup16(const VOIParams& params, VOIScale16* made, Lookup* lookup)
+QvxStatus GetLookup16(const VOIParams& params, VOIScale16* made, VOILookup* lookup)
 {
     if (const QvxStatus status = CheckParams(params))
         return status;
@@ -62,6 +53,19 @@ QvxStatus GetLookup16(const VOIParams& params, VOIScale16* made, Lookup* lookup)
     if (const QvxStatus status = VOIBlitterBase_GetVOIScale16to8(params.bounds, made))
         return status;
     *lookup = LookupFrom(made->entries.data(), made->first, made->entries.size());
+    return kQvxOK;
+}
+
+// The look-up of bytes by a curve over display values.
+QvxStatus GetLookup8(const VOIParams& params, VOIScale256* table)
+{
+    if (params.tag == VOIParamTag::Bounds)
+        return kQvxUnsupported;
+    VOILookup lookup;
+    if (const QvxStatus status = GetLookup16(params, nullptr, &lookup))
+        return status;
+    for (std::uint32_t byte = 0; byte < table->size(); ++byte)
+        (*table)[byte] = EntryOf(lookup, 255 - byte);
     return kQvxOK;
 }
 
@@ -87,17 +91,35 @@ void LookUpInPlace(const VOIScale256& lookup, const VOIPixels& pixels)
     }
 }
 
-// A 16-bit kernel: the look-up, then the rows.
-template <typename Row>
-QvxStatus Apply16(const VOIParams& params, const VOIPixels& pixels, Row row)
+void MixedTableRows(const VOILookup& lookup, const VOIPixels& pixels)
 {
+    ForEachRow(pixels, [&](const std::uint8_t* in, std::uint8_t* out, std::int32_t width) {
+        for (std::int32_t x = 0; x < width; ++x, in += 4, out += 4) {
+            std::uint32_t word;
+            std::memcpy(&word, in, sizeof word);
+            if (word <= kLastGrayWord)
+                word = kOpaqueBlack + kGrayStep * (255U - EntryOf(lookup, word & 0xFFFF));
+            std::memcpy(out, &word, sizeof word);
+        }
+    });
+}
+
+// A 16-bit kernel: a window by its ramp where that can be computed, all else by a table.
+QvxStatus Apply16(const VOIParams& params, const VOIRampUse& use,
+                  bool (*rampRows)(const VOIRamp&, const VOIPixels&),
+                  void (*tableRows)(const VOILookup&, const VOIPixels&), const VOIPixels& pixels)
+{
+    if (const QvxStatus status = CheckParams(params))
+        return status;
+    VOIRamp ramp;
+    if (params.tag == VOIParamTag::Bounds && MakeVOIRamp(params.bounds, use, &ramp) &&
+        rampRows(ramp, pixels))
+        return kQvxOK;
     VOIScale16 made;
-    Lookup lookup;
+    VOILookup lookup;
     if (const QvxStatus status = GetLookup16(params, &made, &lookup))
         return status;
-    ForEachRow(pixels, [&](const std::uint8_t* in, std::uint8_t* out, std::int32_t width) {
-        row(lookup, in, out, width);
-    });
+    tableRows(lookup, pixels);
     return kQvxOK;
 }
 
@@ -106,39 +128,22 @@ QvxStatus Apply16(const VOIParams& params, const VOIPixels& pixels, Row row)
 QvxStatus VOIBlitterBase_ApplyVOITransformation16to8(const VOIParams& params,
                                                      const VOIPixels& pixels)
 {
-    return Apply16(
-        params, pixels,
-        [](Lookup lookup, const std::uint8_t* in, std::uint8_t* out, std::int32_t width) {
-            for (std::int32_t x = 0; x < width; ++x)
-                out[x] = lookup[LoadBE<std::uint16_t>(in + 2 * std::ptrdiff_t{x})];
-        });
+    return Apply16(params, {.bigEndian = true, .grayFlip = 255}, VOIRampRows16to8,
+                   VOITableRows16to8, pixels);
 }
 
 QvxStatus VOIBlitterBase_ApplyVOITransformation16to32ARGB(const VOIParams& params,
                                                           const VOIPixels& pixels)
 {
-    return Apply16(
-        params, pixels,
-        [](Lookup lookup, const std::uint8_t* in, std::uint8_t* out, std::int32_t width) {
-            for (std::int32_t x = 0; x < width; ++x, in += 2, out += 4)
-                StoreBE(out, lookup.Pixel(LoadBE<std::uint16_t>(in)));
-        });
+    return Apply16(params, {.bigEndian = true, .grayFlip = 0}, VOIRampRows16to32ARGB,
+                   VOITableRows16to32ARGB, pixels);
 }
 
 QvxStatus VOIBlitterBase_ApplyVOITransformation32MixedTo32ARGB(const VOIParams& params,
                                                                const VOIPixels& pixels)
 {
-    return Apply16(
-        params, pixels,
-        [](Lookup lookup, const std::uint8_t* in, std::uint8_t* out, std::int32_t width) {
-            for (std::int32_t x = 0; x < width; ++x, in += 4, out += 4) {
-                std::uint32_t word;
-                std::memcpy(&word, in, sizeof word);
-                const std::uint32_t gray = lookup.Pixel(word & 0xFFFF);
-                word = word > kLastGrayWord ? word : gray;
-                std::memcpy(out, &word, sizeof word);
-            }
-        });
+    return Apply16(params, {.bigEndian = false, .grayFlip = 0}, VOIRampRowsMixedTo32ARGB,
+                   MixedTableRows, pixels);
 }
 
 QvxStatus VOIBlitterBase_ApplyVOITransformation8to8_256(const VOIParams& params,
@@ -146,9 +151,6 @@ QvxStatus VOIBlitterBase_ApplyVOITransformation8to8_256(const VOIParams& params,
 {
     if (const QvxStatus status = CheckParams(params))
         return status;
-    // Equal widths, so the shorter row has the smaller padding.
-    if (pixels.source == pixels.destination && pixels.destinationRowBytes < pixels.sourceRowBytes)
-        return kQvxUnsupported;
     VOIScale256 scale;
     if (params.tag == VOIParamTag::BoundsAndTable) {
         if (params.table.size() != scale.size())
@@ -160,12 +162,45 @@ QvxStatus VOIBlitterBase_ApplyVOITransformation8to8_256(const VOIParams& params,
     VOIScale256 lookup;
     for (std::size_t j = 0; j < lookup.size(); ++j)
         lookup[j] = static_cast<std::uint8_t>(255 - scale[255 - j]);
-    if (pixels.source == pixels.destination)
-        LookUpInPlace(lookup, pixels);
-    else
-        ForEachRow(pixels, [&](const std::uint8_t* in, std::uint8_t* out, std::int32_t width) {
-            for (std::int32_t x = 0; x < width; ++x)
-                out[x] = lookup[in[x]];
-        });
+    return LookUp8to8(lookup, pixels);
+}
+
+QvxStatus ApplyCurve8to8(const VOIParams& params, const VOIPixels& pixels)
+{
+    VOIScale256 lookup;
+    if (const QvxStatus status = GetLookup8(params, &lookup))
+        return status;
+    return LookUp8to8(lookup, pixels);
+}
+
+QvxStatus ApplyCurve8to32ARGB(const VOIParams& params, const VOIPixels& pixels)
+{
+    VOIScale256 lookup;
+    if (const QvxStatus status = GetLookup8(params, &lookup))
+        return status;
+    for (std::uint8_t& entry : lookup)
+        entry = static_cast<std::uint8_t>(255 - entry);
+    LookUp8to32ARGB(lookup, pixels);
     return kQvxOK;
+}
+
+QvxStatus LookUp8to8(const VOIScale256& table, const VOIPixels& pixels)
+{
+    if (pixels.source == pixels.destination) {
+        // Equal widths, so the shorter row has the smaller padding.
+        if (pixels.destinationRowBytes < pixels.sourceRowBytes)
+            return kQvxUnsupported;
+        LookUpInPlace(table, pixels);
+        return kQvxOK;
+    }
+    ForEachRow(pixels, [&](const std::uint8_t* in, std::uint8_t* out, std::int32_t width) {
+        for (std::int32_t x = 0; x < width; ++x)
+            out[x] = table[in[x]];
+    });
+    return kQvxOK;
+}
+
+void LookUp8to32ARGB(const VOIScale256& table, const VOIPixels& pixels)
+{
+    VOITableRows8to32ARGB(table, pixels);
 }

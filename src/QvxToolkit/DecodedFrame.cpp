@@ -8,22 +8,21 @@ namespace {
 QvxStatus Decode(QvxParserRec* reader, const QvxFrameRecord& record, std::uint32_t frameNumber,
                  DecodedFrame* frame, std::string* why)
 {
+    const std::string place = "frame " + std::to_string(frameNumber);
     if (frameNumber < 1 || frameNumber > record.fClaimedFrames) {
-        *why = "there is no frame " + std::to_string(frameNumber);
+        *why = "there is no " + place;
         return kQvxBadArgument;
     }
-    QvxFrameDecoder decoder = nullptr;
-    if (const QvxStatus status = QvxPickDecoder(record, &decoder, why))
-        return status;
     QvxStatus status = kQvxEndOfFile;
+    std::string reason;
     if (frameNumber <= record.fFrames) {
         const QvxReaderUse use(reader);
-        status = decoder(reader, record, frameNumber, frame);
+        status = QvxDecodeAnyFrame(reader, record, frameNumber, frame, &reason);
     }
-    if (status == kQvxEndOfFile)
-        *why = "frame " + std::to_string(frameNumber) + " is cut off";
+    if (status == kQvxEndOfFile && reason.empty())
+        *why = place + " is cut off";
     else if (status != kQvxOK)
-        *why = "frame " + std::to_string(frameNumber) + ": " + std::string(StatusText(status));
+        *why = place + ": " + (reason.empty() ? std::string(StatusText(status)) : reason);
     return status;
 }
 

@@ -4,11 +4,10 @@
 #include "QvxToolkit/DecodedFrame.h"
 #include <string>
 
-// Fills a frame whose number has been checked. It may throw std::bad_alloc.
-using QvxFrameDecoder = QvxStatus (*)(QvxParserRec* reader, const QvxFrameRecord& record,
-                                      std::uint32_t frameNumber, DecodedFrame* frame);
-
-// By native or encapsulated form, then by transfer syntax. kQvxUnsupported, with a reason in `why`
-// that names the transfer syntax, when there is none.
-[[nodiscard]] QvxStatus QvxPickDecoder(const QvxFrameRecord& record, QvxFrameDecoder* decoder,
-                                       std::string* why);
+// Decodes a frame whose number has been checked: native ones by their form, clips by their transfer
+// syntax, others by what their stream begins with, and only where that says nothing by the transfer
+// syntax. kQvxUnsupported, with a reason in `why` that names the transfer syntax, when there is no
+// decoder. It may throw std::bad_alloc.
+[[nodiscard]] QvxStatus QvxDecodeAnyFrame(QvxParserRec* reader, const QvxFrameRecord& record,
+                                          std::uint32_t frameNumber, DecodedFrame* frame,
+                                          std::string* why);

@@ -57,7 +57,10 @@ template <typename T>
 class GrayRows {
 public:
     GrayRows(const QvxFrameRecord& record, const QvxDisplayScale& scale, SampleView<T> samples)
-        : fRecord(record), fScale(scale), fSamples(samples)
+        : fRecord(record),
+          fScale(scale),
+          fSamples(samples),
+          fMost(scale.fMaximum <= 255 ? 255 : kGray16Maximum)
     {
     }
     void Convert(std::size_t first, std::size_t count, std::uint16_t* row) const;
@@ -68,6 +71,7 @@ private:
     const QvxFrameRecord& fRecord;
     const QvxDisplayScale& fScale;
     SampleView<T> fSamples;
+    std::int64_t fMost;  // that the pixels can hold
 };
 
 template <typename T>
@@ -82,7 +86,7 @@ void GrayRows<T>::Convert(std::size_t first, std::size_t count, std::uint16_t* r
             row[i] =
                 static_cast<std::uint16_t>(fScale.fBase + fScale.fTimes * std::llround(inside));
         }
-    } else if (sizeof(T) <= 2 && fScale.fDrop == 0) {
+    } else if (sizeof(T) <= 2 && fScale.fDrop == 0 && !fRecord.fEncapsulated) {
         // All sums are right in 16 bits, since the display value fits them.
         const auto base = static_cast<std::uint16_t>(fScale.fBase);
         const auto times = static_cast<std::uint16_t>(fScale.fTimes);
@@ -93,7 +97,9 @@ void GrayRows<T>::Convert(std::size_t first, std::size_t count, std::uint16_t* r
     } else {
         for (std::size_t i = 0; i < count; ++i) {
             const std::int64_t stored = std::int64_t{fSamples[first + i]} >> fScale.fDrop;
-            row[i] = static_cast<std::uint16_t>(fScale.fBase + fScale.fTimes * stored);
+            // Lossy samples may lie beyond the stored bits.
+            row[i] = static_cast<std::uint16_t>(
+                std::clamp<std::int64_t>(fScale.fBase + fScale.fTimes * stored, 0, fMost));
         }
     }
 }

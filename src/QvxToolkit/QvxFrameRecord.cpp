@@ -6,6 +6,7 @@
 #include "QvxToolkit/QvxFrameBytes.h"
 #include "QvxToolkit/QvxHeaderValue.h"
 #include "QvxToolkit/QvxRescale.h"
+#include "QvxToolkit/QvxVideo.h"
 #include <algorithm>
 #include <array>
 #include <new>
@@ -218,7 +219,9 @@ QvxStatus FrameGate::Run()
         return status;
     if (const QvxStatus status = ReadColor())
         return status;
-    if (const QvxStatus status = QvxPlaceFrames(fRun, &fRecord, &fWhy))
+    const bool isClip = fRecord.fEncapsulated && QvxIsVideo(fRecord.fTransferSyntax);
+    if (const QvxStatus status = isClip ? QvxPlaceClip(fReader, fRun, &fRecord, &fWhy)
+                                        : QvxPlaceFrames(fRun, &fRecord, &fWhy))
         return status;
     QvxReadRescale(fReader, &fRecord);
     ReadPadding();

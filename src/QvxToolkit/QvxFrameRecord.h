@@ -10,7 +10,7 @@
 //   (0028,0002) missing, or at odds with (0028,0004): for native pixels what the bytes suffice for,
 //       three samples first; for encapsulated ones the number stands, 0 counts as missing
 //   (0028,0004) 4:2:2, yet the bytes are those of full colour: full colour
-//   (0028,0008) missing        as many frames as (7FE0,0010) is long for
+//   (0028,0008) missing        as many frames as (7FE0,0010) is long for; a clip's are counted
 //   (0028,1053) absent, 0 or absurd   1; (0028,1052) absent or absurd   0
 // Several values where one is due: the first counts.
 #pragma once
@@ -54,7 +54,8 @@ struct QvxFrameRecord {
     std::uint32_t fClaimedFrames = 0;  // frames that there should be, at least fFrames
     std::uint64_t fFrameBytes = 0;     // native: bytes of one frame in the file
     std::uint64_t fFrameStride = 0;    // native: bits from one frame's start to the next's
-    std::uint64_t fPixelOffset = 0;    // native: offset of the first frame, for ReadData
+    std::uint64_t fPixelOffset = 0;    // native: offset of the first frame, for ReadData; of a
+                                       // clip: of the first item
     std::uint64_t fPixelBytes = 0;     // native: bytes from there on that are pixels
 
     double fSlope = 1, fIntercept = 0;  // (0028,1053), (0028,1052), also of enhanced images

@@ -51,6 +51,11 @@ public:
     [[nodiscard]] QvxStatus GetCompressedData(std::vector<std::byte>* data);
     [[nodiscard]] QvxStatus GetMIMEType(std::string* type) const;
     [[nodiscard]] QvxStatus GetImportComponentInfo(std::string* name, std::uint32_t* subtype) const;
+    // What each image of the file is: bits of IndexedImageKind. Made once, by looking at each
+    // image; files of a single image, and of very many pages, are not walked.
+    [[nodiscard]] QvxStatus LoadIndexedImageInfo();
+    // Of image `index`, from 1; 0 for one that isn't there, and before the table was made.
+    [[nodiscard]] std::uint32_t GetIndexedImageType(std::int32_t index) const;
     // Is the file of the kind of its importer? kQvxImporterValid or kQvxOK with an answer.
     [[nodiscard]] QvxStatus Validate(bool* valid);
 
@@ -74,9 +79,12 @@ protected:
 private:
     [[nodiscard]] QvxStatus DrawPlain(COffscreen& offscreen, std::int32_t quality,
                                       std::int16_t mode, RGBColor color);
+    [[nodiscard]] QvxStatus ReadImageKinds(std::int32_t count);
+    void InjectFakeFlashPixIndexedImageInfo();
     [[nodiscard]] QvxStatus DrawThroughClone(COffscreen& offscreen, std::int16_t mode,
                                              RGBColor color);
 
     std::unique_ptr<GraphicsImporter> fInstance;
     std::optional<ImageDescription> fImageDesc;
+    std::vector<std::uint32_t> fImageKinds;  // by image, empty until loaded
 };

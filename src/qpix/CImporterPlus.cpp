@@ -1,5 +1,6 @@
 #include "qpix/CImporterPlus.h"
 
+#include "pixels/OffscreenFactory.h"
 #include "pixels/PixelFormat.h"
 #include "pixels/PortDescription.h"
 
@@ -54,6 +55,67 @@ QvxStatus CImporterPlus::GetDominantFrame(std::int32_t* frame)
     if (!frame)
         return kQvxBadArgument;
     *frame = count > 0 && HoldsRenderings() ? 1 : 0;
+    return kQvxOK;
+}
+
+bool CImporterPlus::SupportsLayers() const
+{
+    const std::uint32_t type = GetImporterBaseType();
+    return type == FourCC("8BPS") || type == FourCC("TIFF");
+}
+
+bool CImporterPlus::SupportsMultipleResolution() const
+{
+    return GetImporterBaseType() == FourCC("FPix");
+}
+
+QvxStatus CImporterPlus::GetImageDataInfo(std::uint32_t selector, std::uint32_t* code)
+{
+    return Instance() ? Instance()->GetImageDataInfo(selector, code) : kQvxNoImporter;
+}
+
+QvxStatus CImporterPlus::DecompressOnOffscreenEx(COffscreen& offscreen,
+                                                 const ImageDescription* description,
+                                                 std::int32_t quality, std::int16_t mode,
+                                                 DicomCodec* codec, zel_Offscreen* mask,
+                                                 const QvxMaskDisplacementRec* displacement)
+{
+    if (!mask || !codec || !mask->GetGWorldPtr())
+        return DecompressOnOffscreen(offscreen, description, quality, mode, codec);
+    const PortLock lock(*mask->GetGWorldPtr());
+    const std::uint32_t hints = codec->Hints();
+    codec->SetMaskPixels(mask->GetGWorldPtr()->Map());
+    codec->SetMasking(true);
+    codec->SetMaskDisplacement(displacement ? *displacement : QvxMaskDisplacementRec{});
+    codec->SetHints(hints | kCodecHintMasked);
+    const QvxStatus status = DecompressOnOffscreen(offscreen, description, quality, mode, codec);
+    codec->SetHints(hints);
+    codec->SetMasking(false);
+    return status;
+}
+
+QvxStatus CImporterPlus::GetMaskOffscreen(std::unique_ptr<zel_Offscreen>* mask)
+{
+    if (!mask)
+        return kQvxBadArgument;
+    mask->reset();
+    const ImageDescription* described = nullptr;
+    if (const QvxStatus status = GetImageDesc(&described))
+        return status;
+    const std::uint32_t format = GetPixelFormatFromImageDescription(*described);
+    if (!IsDICOMImporter() || (format != kPixelFormatGray8 && format != kPixelFormatGray16))
+        return kQvxOK;
+    const ImageDescription description = *described;
+    std::unique_ptr<zel_Offscreen> made;
+    if (const QvxStatus status = zel_OffscreenFactory::NewCOffscreen(
+            description, description.fWidth, description.fHeight, true, &made))
+        return status;
+    DicomCodec codec;
+    codec.SetHints(kCodecHintsMask);
+    if (const QvxStatus status =
+            DecompressOnOffscreen(*made, &description, kQualityFrame, 0, &codec))
+        return status;
+    *mask = std::move(made);
     return kQvxOK;
 }
 

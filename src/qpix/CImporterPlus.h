@@ -1,7 +1,10 @@
 // An importer with what the system knows of DICOM and of containers that hold one picture in
 // several renderings ('8BPS', 'FPix', 'JPEG'): these present one image.
 #pragma once
+#include "pixels/zel_Offscreen.h"
+
 #include "qpix/CImporter.h"
+#include "qpix/DicomCodec.h"
 
 enum class ColorType : std::int32_t { Unknown = 0, BlackAndWhite = 1, Color = 2, Gray = 3 };
 
@@ -36,6 +39,27 @@ public:
     [[nodiscard]] QvxStatus GetDominantFrame(std::int32_t* frame);
     [[nodiscard]] QvxStatus GetQTFrameInfo(QTFrameInfo* info);
     [[nodiscard]] QvxStatus GetImageInfo(ImageInfo* info);
+    // The importer's instance, for its overlays; null when it has none.
+    [[nodiscard]] GraphicsImporter* GetInstance() const { return Instance(); }
+    [[nodiscard]] QvxStatus GetImageColorSpace(std::uint32_t* format)
+    {
+        return GetColorSpace(format);
+    }
+    // Containers whose images are layers of one picture, or one picture in several sizes.
+    [[nodiscard]] bool SupportsLayers() const;
+    [[nodiscard]] bool SupportsMultipleResolution() const;
+    // 'G_CT' and the like; kQvxUnsupported for importers that can't tell.
+    [[nodiscard]] QvxStatus GetImageDataInfo(std::uint32_t selector, std::uint32_t* code);
+
+    // DecompressOnOffscreen with a mask to subtract (DicomCodec.h); mask, displacement and codec
+    // may be null. A mask that can't be set doesn't stop the frame.
+    [[nodiscard]] QvxStatus DecompressOnOffscreenEx(COffscreen& offscreen,
+                                                    const ImageDescription* description,
+                                                    std::int32_t quality, std::int16_t mode,
+                                                    DicomCodec* codec, zel_Offscreen* mask,
+                                                    const QvxMaskDisplacementRec* displacement);
+    // The current image as a mask. Of other than gray DICOM images none, with kQvxOK.
+    [[nodiscard]] QvxStatus GetMaskOffscreen(std::unique_ptr<zel_Offscreen>* mask);
 
 private:
     [[nodiscard]] bool HoldsRenderings() const;

@@ -3,18 +3,40 @@
 #include "dicom_core/values/ParserOpen.h"
 #include "dicom_core/values/ParserValues.h"
 #include "pixels/OffscreenFactory.h"
+#include "util/Log.h"
 
 #include "QvxToolkit/QvxCodec.h"
 #include "qpix/DicomCodec.h"
 #include "qpix/DicomDescription.h"
 #include <algorithm>
+#include <array>
 #include <memory>
+#include <string_view>
 
 namespace {
 
 constexpr QvxElementTag kTagRows{0x0028, 0x0010};
 constexpr QvxElementTag kTagColumns{0x0028, 0x0011};
 constexpr std::uint32_t kMaxSide = 65535;
+
+constexpr std::uint32_t kStoredNative = FourCC("NATV"), kStoredOther = FourCC("OTHR");
+struct StoredForm {
+    std::string_view fUID;  // transfer syntax
+    std::uint32_t fCode;
+};
+constexpr auto kStoredForms = std::to_array<StoredForm>({
+    {"1.2.840.10008.1.2.5", FourCC("RLE ")},
+    {"1.2.840.10008.1.2.4.50", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.51", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.53", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.55", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.57", FourCC("JLSL")},
+    {"1.2.840.10008.1.2.4.70", FourCC("JLSL")},
+    {"1.2.840.10008.1.2.4.80", FourCC("JPLS")},
+    {"1.2.840.10008.1.2.4.81", FourCC("JPLN")},
+    {"1.2.840.10008.1.2.4.90", FourCC("J2KL")},
+    {"1.2.840.10008.1.2.4.91", FourCC("J2KY")},
+});
 
 std::int16_t PinnedSide(std::uint32_t side)
 {
@@ -42,6 +64,7 @@ QvxStatus DicomImporter::SetDataFile(const FileRef& file)
         return status;
     fReader = std::move(reader);
     fHeaderStatus.reset();
+    fOverlayImage = 0;
     BindFile(file);
     return kQvxOK;
 }
@@ -63,7 +86,8 @@ QvxStatus DicomImporter::ReadHeader()
     const QvxReaderUse use(fReader.get());
     if (const QvxStatus status = Parser_WalkHeader(fReader.get()))
         return status;
-    fRecordStatus = QvxMakeFrameRecord(fReader.get(), &fRecord);
+    fRecordReason.clear();
+    fRecordStatus = QvxMakeFrameRecord(fReader.get(), &fRecord, &fRecordReason);
     return fRecordStatus == kQvxNoMemory ? fRecordStatus : ReadSize();
 }
 
@@ -172,6 +196,23 @@ QvxStatus DicomImporter::ReadData(void* dest, std::uint32_t offset, std::uint32_
     return Qvx2Reader_ReadData(fReader.get(), dest, offset, size);
 }
 
+QvxStatus DicomImporter::GetImageDataInfo(std::uint32_t selector, std::uint32_t* code)
+{
+    if (!code)
+        return kQvxBadArgument;
+    if (selector != kImageDataStoredAs)
+        return kQvxUnsupported;
+    if (const QvxStatus status = Load())
+        return status;
+    if (fRecordStatus)
+        return fRecordStatus;
+    const auto row = std::ranges::find(kStoredForms, fRecord.fTransferSyntax, &StoredForm::fUID);
+    *code = !fRecord.fEncapsulated      ? kStoredNative
+            : row != kStoredForms.end() ? row->fCode
+                                        : kStoredOther;
+    return kQvxOK;
+}
+
 QvxStatus DicomImporter::Draw(COffscreen& target, DicomCodec* codec)
 {
     if (!target.GetGWorldPtr())
@@ -179,8 +220,10 @@ QvxStatus DicomImporter::Draw(COffscreen& target, DicomCodec* codec)
     const QvxReaderUse use(fReader.get());
     if (const QvxStatus status = Load())
         return status;
-    if (fRecordStatus)
+    if (fRecordStatus) {
+        LogLine(DataFile().fPath + ": " + fRecordReason);
         return fRecordStatus;
+    }
     if (!Matrix().KeepsRectangles())
         return kQvxUnsupported;
     DicomCodec own;
@@ -188,8 +231,17 @@ QvxStatus DicomImporter::Draw(COffscreen& target, DicomCodec* codec)
     const Rect source = EmptyRect(SourceRect()) ? NaturalBounds() : SourceRect();
     if (!FillsWhole(target, source))
         return DrawThroughCopy(target, source, decoder);
-    return decoder.Decode(fReader.get(), fRecord, static_cast<std::uint32_t>(ImageIndex()),
-                          target.GetGWorldPtr()->Map());
+    return DecodeInto(target.GetGWorldPtr()->Map(), decoder);
+}
+
+QvxStatus DicomImporter::DecodeInto(const PixMap& map, DicomCodec& codec)
+{
+    std::string why;
+    const QvxStatus status =
+        codec.Decode(fReader.get(), fRecord, static_cast<std::uint32_t>(ImageIndex()), map, &why);
+    if (status)
+        LogLine(DataFile().fPath + ": " + (why.empty() ? std::string(StatusText(status)) : why));
+    return status;
 }
 
 // The pixels come out of the decoder as the target wants them: no copy in between.
@@ -209,9 +261,7 @@ QvxStatus DicomImporter::DrawThroughCopy(COffscreen& target, const Rect& source,
     if (const QvxStatus status = zel_OffscreenFactory::NewCOffscreen(
             description, description.fWidth, description.fHeight, true, &whole))
         return status;
-    if (const QvxStatus status =
-            codec.Decode(fReader.get(), fRecord, static_cast<std::uint32_t>(ImageIndex()),
-                         whole->GetGWorldPtr()->Map()))
+    if (const QvxStatus status = DecodeInto(whole->GetGWorldPtr()->Map(), codec))
         return status;
     const Rect place = MapRectByMatrix(Matrix(), source);
     return whole->CopyPixelsTo(target.GetGWorldPtr(), &source, &place,

@@ -1,8 +1,13 @@
 // The importer instance of DICOM files: frames through the toolkit's decoders.
 #pragma once
+#include "util/PixMap.h"
+
 #include "QvxToolkit/QvxFrameRecord.h"
+#include "QvxToolkit/QvxOverlayPlane.h"
 #include "qpix/GraphicsImporter.h"
 #include <optional>
+#include <string>
+#include <vector>
 
 class DicomImporter final : public GraphicsImporter {
 public:
@@ -26,12 +31,23 @@ public:
     [[nodiscard]] QvxStatus GetDataOffsetAndSize(std::uint32_t* offset,
                                                  std::uint32_t* size) override;
     [[nodiscard]] QvxStatus ReadData(void* dest, std::uint32_t offset, std::uint32_t size) override;
+    [[nodiscard]] QvxStatus GetImageDataInfo(std::uint32_t selector, std::uint32_t* code) override;
+    [[nodiscard]] QvxStatus GetOverlayCount(std::int32_t* count) override;
+    [[nodiscard]] QvxStatus SetOverlayIndex(std::int32_t index) override;
+    [[nodiscard]] QvxStatus GetOverlayBounds(Rect* bounds) override;
+    [[nodiscard]] QvxStatus GetOverlayImageDescription(ImageDescription* description) override;
+    [[nodiscard]] QvxStatus GetOverlayDataOffsetAndSize(std::uint32_t* offset,
+                                                        std::uint32_t* size) override;
+    // A frame that can't be decoded is told of in the log, with the reason.
     [[nodiscard]] QvxStatus Draw(COffscreen& target, DicomCodec* codec) override;
 
 private:
     [[nodiscard]] QvxStatus Load();
     [[nodiscard]] QvxStatus ReadHeader();
     [[nodiscard]] QvxStatus ReadSize();
+    [[nodiscard]] const QvxOverlay* SelectedOverlay();
+    [[nodiscard]] QvxStatus LoadOverlays();
+    [[nodiscard]] QvxStatus DecodeInto(const PixMap& map, DicomCodec& codec);
     [[nodiscard]] bool FillsWhole(COffscreen& target, const Rect& source) const;
     [[nodiscard]] QvxStatus DrawThroughCopy(COffscreen& target, const Rect& source,
                                             DicomCodec& codec);
@@ -41,5 +57,9 @@ private:
     QvxFrameRecord fRecord;
     std::optional<QvxStatus> fHeaderStatus;  // of reading the header, once that was tried
     QvxStatus fRecordStatus = kQvxOK;        // of what it says of its pixels
+    std::string fRecordReason;
+    std::vector<QvxOverlay> fOverlays;  // of image fOverlayImage
+    std::int32_t fOverlayImage = 0;     // 0: none looked at
+    std::size_t fOverlayIndex = 0;      // from 1; 0 none selected
     std::uint32_t fWidth = 0, fHeight = 0;
 };

@@ -17,6 +17,17 @@ class DicomCodec;
 
 inline constexpr std::uint32_t kImporterDicom = FourCC("DICM");
 
+inline constexpr std::uint32_t kImageDataStoredAs = FourCC("G_CT");
+inline constexpr std::uint32_t kStoredLossyJPEG = FourCC("JLSY");
+
+// What one of several images in a file is.
+enum IndexedImageKind : std::uint32_t {
+    kImageKindThumbnail = 1,
+    kImageKindLayer = 2,
+    kImageKindPage = 4,
+    kImageKindResolution = 8,
+};
+
 // How well a decoder is to work; larger is better and slower.
 inline constexpr std::int32_t kQualityCopy = 768;
 inline constexpr std::int32_t kQualitySequence = 1023;
@@ -64,6 +75,23 @@ public:
                                                          std::uint32_t* size) = 0;
     [[nodiscard]] virtual QvxStatus ReadData(void* dest, std::uint32_t offset,
                                              std::uint32_t size) = 0;
+    // How the stored pixels are coded: selector 'G_CT' gives a four-character code, of which
+    // kStoredLossyJPEG is the one that others must know. kQvxUnsupported for another selector and
+    // for kinds that can't tell.
+    [[nodiscard]] virtual QvxStatus GetImageDataInfo(std::uint32_t selector, std::uint32_t* code);
+    // What the current image is beside others of its file: bits of IndexedImageKind.
+    [[nodiscard]] virtual std::uint32_t ImageKind() { return 0; }
+    // The overlays of the current image, from 1; kinds without any answer a count of 0.
+    [[nodiscard]] virtual QvxStatus GetOverlayCount(std::int32_t* count);
+    // kQvxBadArgument for one that isn't there. The rest answers of the one selected last.
+    [[nodiscard]] virtual QvxStatus SetOverlayIndex(std::int32_t index);
+    // In pixels of the image; it may reach beyond them.
+    [[nodiscard]] virtual QvxStatus GetOverlayBounds(Rect* bounds);
+    // How the bytes below become a plane of one bit a pixel: OverlayDescription.h.
+    [[nodiscard]] virtual QvxStatus GetOverlayImageDescription(ImageDescription* description);
+    // Where they lie, for ReadData.
+    [[nodiscard]] virtual QvxStatus GetOverlayDataOffsetAndSize(std::uint32_t* offset,
+                                                                std::uint32_t* size);
     // Decodes the current image into the target as matrix, mode and quality say. `codec` is null
     // or a decoder of the kind that is to do it and remember the frame.
     // kQvxDrawStopped when the user stopped it, kQvxUnsupported for a matrix that turns.

@@ -1,7 +1,16 @@
-// zelora frame FILE [-n N] [--raw | --png] [--window WIDTH,LEVEL] -o OUT
-#include "dicom_core/imaging/FramePicture.h"
+// zelora frame FILE [-n N] [--raw | --png] [--window WIDTH,LEVEL] [--invert] [--rotate DEGREES]
+//              [--flip h|v] [--clut NUMBER] [--overlays] -o OUT
+#include "dicom_core/imaging/DicomOverlays.h"
+#include "dicom_core/imaging/LoadFrame.h"
+#include "dicom_core/imaging/zel_QTViewerDoc.h"
+#include "dicom_core/look/TransDocs.h"
+#include "dicom_core/tree/dk_DicomSequence.h"
+#include "dicom_core/tree/dk_ImageFile.h"
+#include "prefs/ColorTableFiles.h"
+#include "prefs/Prefs.h"
 #include "tool/CommandLine.h"
 #include "tool/OpenedFile.h"
+#include "util/Log.h"
 
 #include "QvxToolkit/DecodedFrame.h"
 #include <algorithm>
@@ -22,6 +31,14 @@ struct FrameRequest {
     std::uint32_t fFrame = 1;
     bool fRaw = false;
     std::optional<WindowWanted> fWindow;
+    bool fInvert = false, fOverlays = false;
+    std::uint32_t fRotate = 0;  // degrees clockwise, before the flip
+    char fFlip = 0;             // 'h', 'v'
+    std::uint32_t fTable = 0;   // 0: none
+    [[nodiscard]] bool ChangesLook() const
+    {
+        return fInvert || fRotate != 0 || fFlip != 0 || fTable != 0 || fWindow;
+    }
 };
 
 std::string FrameReason(std::uint32_t frame, QvxStatus status, const std::string& why = {})
@@ -92,44 +109,126 @@ std::vector<std::uint8_t> PngOf(const RgbImage& image)
     return png;
 }
 
-QvxStatus RenderPicture(FramePicture& picture, RgbImage* image)
+// The first line that was logged while a frame was loaded: the one with the reason.
+std::string& FirstLogLine()
 {
-    const int width = picture.Width(), height = picture.Height();
-    if (width > INT16_MAX || height > INT16_MAX)  // what the bounds of a pixel map can say
-        return kQvxUnsupported;
+    static std::string sLine;
+    return sLine;
+}
+
+void KeepFirstLine(std::string_view line)
+{
+    if (FirstLogLine().empty())
+        FirstLogLine() = line;
+}
+
+class LogKeeper {
+public:
+    LogKeeper()
+    {
+        FirstLogLine().clear();
+        SetLogSink(KeepFirstLine);
+    }
+    ~LogKeeper() { SetLogSink(nullptr); }
+    LogKeeper(const LogKeeper&) = delete;
+    LogKeeper& operator=(const LogKeeper&) = delete;
+    // The reason without the path that it begins with.
+    [[nodiscard]] static std::string Reason(const std::string& path, QvxStatus status)
+    {
+        const std::string& line = FirstLogLine();
+        const std::string start = EscapedText(path) + ": ";
+        return line.starts_with(start) ? line.substr(start.size())
+                                       : std::string(StatusText(status));
+    }
+};
+
+// What the user is said to have done to the frame.
+void TakeLook(const FrameRequest& request, dk_ImageFrameInfo* frame)
+{
+    zel_TransformRec& look = frame->fTransform;
+    look.invert = request.fInvert;
+    if (request.fRotate != 0)
+        look.RecRotation(static_cast<std::int32_t>(request.fRotate));
+    if (request.fFlip == 'h')
+        look.RecHorzFlip();
+    else if (request.fFlip == 'v')
+        look.RecVertFlip();
+    frame->fColorTable = static_cast<std::int32_t>(request.fTable);
+    if (request.fWindow)
+        look.RecordVOI(static_cast<float>(request.fWindow->fWidth),
+                       static_cast<float>(request.fWindow->fLevel));
+}
+
+// The document's picture at its own size, with overlays where they are wanted.
+QvxStatus RenderPicture(const FrameRequest& request, zel_QTViewerDoc* document, RgbImage* image)
+{
+    const int width = document->GetWidth(), height = document->GetHeight();
     std::vector<std::uint8_t> argb(static_cast<std::size_t>(width) *
                                    static_cast<std::size_t>(height) * 4);
-    PixMap map;
-    map.baseAddr = argb.data();
-    map.rowBytes = width * 4;
-    map.bounds = {0, 0, static_cast<std::int16_t>(height), static_cast<std::int16_t>(width)};
-    map.pixelFormat = kPixelFormatARGB32;
-    map.pixelSize = 32;
-    map.cmpCount = 4;
-    map.cmpSize = 8;
-    if (const QvxStatus status = picture.Render(map))
+    Port port;
+    port.baseAddr = argb.data();
+    port.rowBytes = width * 4;
+    port.bounds = document->GetDocBounds();
+    port.pixelFormat = kPixelFormatARGB32;
+    port.pixelSize = 32;
+    port.cmpCount = 4;
+    port.cmpSize = 8;
+    if (const QvxStatus status =
+            document->CopyPixelsToGWorldL(&port, nullptr, nullptr, CopyMode::Replace, nullptr))
         return status;
+    const dk_ImageFrameInfo* frame = document->CurrentFrame();
+    const IdentityTransDoc turned;
+    if (request.fOverlays)
+        if (const QvxStatus status =
+                U_DrawDicomOverlays(frame->fSource, frame->fFrameInFile, &port, port.bounds,
+                                    &frame->fTransform, &turned, nullptr, OverlaysBeyond::Cut))
+            return status;
     *image = RgbOf(argb, width, height);
     return kQvxOK;
 }
 
+// Loads the frame twice: the first time sets its window and its limits up, the second shows what is
+// done to it.
+QvxStatus LoadWithLook(const FrameRequest& request, dk_Sequence* sequence,
+                       zel_QTViewerDoc* document)
+{
+    const auto number = static_cast<std::int32_t>(request.fFrame);
+    if (const QvxStatus status = U_LoadFrameContentToViewerDoc(sequence, number, document))
+        return status;
+    if (!request.ChangesLook())
+        return kQvxOK;
+    TakeLook(request, document->CurrentFrame());
+    return U_LoadFrameContentToViewerDoc(sequence, number, document);
+}
+
 int WritePng(const FrameRequest& request)
 {
-    std::unique_ptr<FramePicture> picture;
-    std::string why;
-    if (FramePicture::Open(request.fPath, &picture, &why) != kQvxOK)
+    const LogKeeper log;
+    CImporterPlusFactory::InitFactory();
+    auto file = std::make_unique<dk_ImageFile>();
+    if (const QvxStatus status = file->SetSourceFile(FileRef{request.fPath}, kImportDicom)) {
+        QvxReaderPtr reader;
+        std::string why;
+        if (OpenDicomFile(request.fPath, &reader, &why) == kQvxOK)
+            why = StatusText(status);
         return Failure(request.fPath, why);
-    if (request.fFrame > static_cast<std::uint32_t>(picture->FrameCount()))
-        return Failure(request.fPath, "has " + std::to_string(picture->FrameCount()) + " frames");
-    if (const QvxStatus status = picture->LoadFrame(static_cast<int>(request.fFrame)))
-        return Failure(request.fPath, FrameReason(request.fFrame, status));
-    if (request.fWindow && !picture->IsGray())
+    }
+    dk_Sequence sequence;
+    sequence.AddChild(std::move(file));
+    const std::int32_t frames = std::max(sequence.GetNumberOfFrames(), 1);
+    if (request.fFrame > static_cast<std::uint32_t>(frames))
+        return Failure(request.fPath, "has " + std::to_string(frames) + " frames");
+    if (request.fTable > static_cast<std::uint32_t>(prefs_GetNumberOfCLUTs()))
+        return Failure(request.fPath,
+                       "--clut: there are " + std::to_string(prefs_GetNumberOfCLUTs()) + " tables");
+    zel_QTViewerDoc document;
+    if (const QvxStatus status = LoadWithLook(request, &sequence, &document))
+        return Failure(request.fPath, FrameReason(request.fFrame, status,
+                                                  LogKeeper::Reason(request.fPath, status)));
+    if (request.fWindow && !document.IsVOIReady())
         return Failure(request.fPath, "is in colour and has no window");
-    if (request.fWindow)
-        picture->Transform().RecordVOI(static_cast<float>(request.fWindow->fWidth),
-                                       static_cast<float>(request.fWindow->fLevel));
     RgbImage image;
-    if (const QvxStatus status = RenderPicture(*picture, &image))
+    if (const QvxStatus status = RenderPicture(request, &document, &image))
         return Failure(request.fPath, FrameReason(request.fFrame, status));
     const std::vector<std::uint8_t> png = PngOf(image);
     if (png.empty())
@@ -147,10 +246,21 @@ std::string ReadRequest(const ParsedWords& parsed, FrameRequest* request)
     request->fPath = parsed.fPaths[0];
     request->fOut = parsed.Value("-o");
     request->fRaw = parsed.Has("--raw");
-    if (request->fRaw && (parsed.Has("--png") || parsed.Has("--window")))
-        return "--raw goes with neither --png nor --window";
+    if (request->fRaw && parsed.fOptions.size() > 2 + (parsed.Has("-n") ? 1U : 0U))
+        return "--raw goes with none of the options of pictures";
     if (!ParseNumber(parsed.Value("-n", "1"), &request->fFrame) || request->fFrame == 0)
         return "-n takes the number of a frame, from 1";
+    request->fInvert = parsed.Has("--invert");
+    request->fOverlays = parsed.Has("--overlays");
+    if (!ParseNumber(parsed.Value("--rotate", "0"), &request->fRotate) ||
+        request->fRotate % 90 != 0 || request->fRotate > 270)
+        return "--rotate takes 90, 180 or 270";
+    const std::string flip = parsed.Value("--flip");
+    if (parsed.Has("--flip") && flip != "h" && flip != "v")
+        return "--flip takes h or v";
+    request->fFlip = flip.empty() ? '\0' : flip[0];
+    if (!ParseNumber(parsed.Value("--clut", "0"), &request->fTable))
+        return "--clut takes the number of a colour table, from 1";
     if (parsed.Has("--window")) {
         const std::string text = parsed.Value("--window");
         const std::size_t comma = text.find(',');
@@ -169,11 +279,24 @@ std::string ReadRequest(const ParsedWords& parsed, FrameRequest* request)
 
 int RunFrame(CommandWords words)
 {
-    const ParsedWords parsed =
-        ParseWords(words, {{"-n", true}, {"-o", true}, {"--window", true}, {"--raw"}, {"--png"}});
+    const ParsedWords parsed = ParseWords(words, {{"-n", true},
+                                                  {"-o", true},
+                                                  {"--window", true},
+                                                  {"--rotate", true},
+                                                  {"--flip", true},
+                                                  {"--clut", true},
+                                                  {"--invert"},
+                                                  {"--overlays"},
+                                                  {"--raw"},
+                                                  {"--png"}});
     FrameRequest request;
     const std::string problem = ReadRequest(parsed, &request);
     if (!problem.empty())
         return WrongUsage(problem);
-    return request.fRaw ? WriteRaw(request) : WritePng(request);
+    if (request.fRaw)
+        return WriteRaw(request);
+    prefs_InitializeForApplication();
+    if (request.fTable != 0)
+        prefs_SetCLUTs(loadCLUTTables());
+    return WritePng(request);
 }

@@ -4,6 +4,8 @@
 
 namespace {
 
+LogSink sSink = nullptr;
+
 // Length of the well-formed UTF-8 sequence that `text` begins with; 0 when there is none.
 std::size_t Utf8Length(std::string_view text)
 {
@@ -47,9 +49,13 @@ std::string EscapedText(std::string_view text)
     return out;
 }
 
+void SetLogSink(LogSink sink) { sSink = sink; }
+
 void LogLine(std::string_view text)
 {
     std::string line = EscapedText(text);
+    if (sSink)
+        return sSink(line);
     line += '\n';
     std::fwrite(line.data(), 1, line.size(), stderr);
 }

@@ -14,8 +14,10 @@ struct StatusWords {
 // clang-format off
 constexpr auto kWords = std::to_array<StatusWords>({
     { kQvxOK,              "no error" },
+    { kQvxDirectoryFull,   "the folder is full" },
     { kQvxDiskFull,        "the disk is full" },
     { kQvxEndOfFile,       "the file ends too early" },
+    { kQvxTooManyFiles,    "too many open files" },
     { kQvxFileNotFound,    "no such file" },
     { kQvxBadArgument,     "bad argument or state" },
     { kQvxNoMemory,        "not enough memory" },
@@ -52,6 +54,7 @@ constexpr auto kWords = std::to_array<StatusWords>({
     { kZelCopyErrors,           "too many errors in one copy" },
     { kZelCopyTargetExists,     "the copy's target exists" },
     { kZelCopyFailed,           "the copy failed" },
+    { kZelBufferFull,           "the frame buffer is full" },
 });
 // clang-format on
 

@@ -7,8 +7,10 @@
 using QvxStatus = std::int32_t;
 
 inline constexpr QvxStatus kQvxOK = 0;
+inline constexpr QvxStatus kQvxDirectoryFull = -33;
 inline constexpr QvxStatus kQvxDiskFull = -34;
 inline constexpr QvxStatus kQvxEndOfFile = -39;  // a walk ends quietly on it
+inline constexpr QvxStatus kQvxTooManyFiles = -42;
 inline constexpr QvxStatus kQvxFileNotFound = -43;
 inline constexpr QvxStatus kQvxBadArgument = -50;
 inline constexpr QvxStatus kQvxNoMemory = -108;
@@ -53,6 +55,8 @@ inline constexpr QvxStatus kZelRecentFailed = 20019;
 inline constexpr QvxStatus kZelCopyErrors = 20020;        // too many in one copy
 inline constexpr QvxStatus kZelCopyTargetExists = 20021;  // handled, never reported
 inline constexpr QvxStatus kZelCopyFailed = 20022;        // for no known reason
+
+inline constexpr QvxStatus kZelBufferFull = 20053;  // of a frame buffer: nothing may be evicted
 
 // What a code means in a few plain words; "unknown error" for a code that is not above, the
 // system's words for a positive one (an errno).

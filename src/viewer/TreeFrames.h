@@ -1,7 +1,5 @@
-// What a window lists and pages through, out of a patient tree.
+// What a window lists, out of a patient tree.
 #pragma once
-#include "viewer/FrameList.h"
-
 #include <cstdint>
 #include <vector>
 
@@ -19,5 +17,3 @@ struct TreeRow {
 // The good sequences in tree order, each below its patient and series, and below its study where
 // the patient has several.
 [[nodiscard]] std::vector<TreeRow> RowsOfTree(const ZELDcmTree& tree);
-// The frames of a sequence in their order.
-[[nodiscard]] FrameList FramesOfSequence(dk_SequenceBase* sequence);

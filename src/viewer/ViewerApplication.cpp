@@ -2,6 +2,7 @@
 
 #include "dicom_core/opening/PathNames.h"
 #include "dicom_core/opening/ZELDcmTree.h"
+#include "dicom_core/store/TempFolder.h"
 #include "platform/AlertWords.h"
 #include "platform/VolumeWatcher.h"
 #include "prefs/Prefs.h"
@@ -46,10 +47,17 @@ ViewerApplication::ViewerApplication(std::optional<QString> snapshotPath)
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-ViewerApplication::~ViewerApplication() = default;
+ViewerApplication::~ViewerApplication()
+{
+    _baseBuffer.reset();
+    RemoveProgramTempFolder();
+}
 
 void ViewerApplication::start(std::vector<std::string> paths)
 {
+    _baseBuffer = std::make_unique<zel_ImageBuffer>();
+    _baseBuffer->SetIOBufferSize(kBaseBufferIOBytes);
+    gAppBaseBuffer = _baseBuffer.get();
     _recents.loadSavedRecents();
     openPaths(std::move(paths));
     if (isAttended())
@@ -58,6 +66,7 @@ void ViewerApplication::start(std::vector<std::string> paths)
 
 void ViewerApplication::finishStart()
 {
+    SweepDeadTempFolders();
     if (prefs_DoAutoOpenDICOMCDs())
         _controller.openMountedCDsOnStartup();
     _volumes = NewVolumeWatcher([this](const std::string& point) { diskMounted(point); });

@@ -2,6 +2,7 @@
 // Main thread only.
 #pragma once
 #include "dicom_core/opening/OpenController.h"
+#include "dicom_core/store/zel_ImageBuffer.h"
 #include "viewer/OpenProgressWindow.h"
 #include "viewer/ViewerCommands.h"
 
@@ -64,6 +65,7 @@ private:
     [[nodiscard]] bool isAttended() const { return !_snapshotPath; }
 
     std::optional<QString> _snapshotPath;
+    std::unique_ptr<zel_ImageBuffer> _baseBuffer;  // gAppBaseBuffer
     ZELRecentDocuments _recents;
     OpenProgressWindow _progressWindow;
     ZELOpenController _controller;

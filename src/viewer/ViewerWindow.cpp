@@ -4,6 +4,7 @@
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "viewer/DocumentIcon.h"
 #include "viewer/DroppedPaths.h"
+#include "viewer/FrameSteps.h"
 #include "viewer/ViewerCommands.h"
 #include "viewer/ViewerMenus.h"
 #include "viewer/ViewerWords.h"
@@ -192,7 +193,7 @@ void ViewerWindow::onPainted()
 void ViewerWindow::showSequenceAt(const QModelIndex& row)
 {
     const TreeRow shown = row.isValid() ? _sequences.treeRow(row.row()) : TreeRow();
-    _delegate.setFrames(shown.IsSequence() ? FramesOfSequence(shown.Sequence()) : FrameList());
+    _delegate.setSequence(shown.IsSequence() ? shown.Sequence() : nullptr);
     _view->setDelegate(&_delegate);  // it has other photos now
     _view->scrollToPhotoAtIndex(0);
     updateStatus();
@@ -200,14 +201,14 @@ void ViewerWindow::showSequenceAt(const QModelIndex& row)
 
 void ViewerWindow::updateStatus()
 {
-    const int count = _delegate.frames().FrameCount();
+    const int count = _delegate.photoCountForPhotoView();
     if (count == 0) {
         _file->clear();
         _frame->setText(ViewerWord("There are no frames to show"));
         return setWindowText({});
     }
     const int index = _view->firstVisibleIndex();
-    const FrameListDelegate::Caption caption = _delegate.captionAtIndex(index);
+    const SequenceDelegate::Caption caption = _delegate.captionAtIndex(index);
     setFileText(caption);
     const QLocale locale;
     const QString frame =
@@ -218,7 +219,7 @@ void ViewerWindow::updateStatus()
         QStringList{_file->accessibleName(), frame, _window->text()}.join(QStringLiteral(", ")));
 }
 
-void ViewerWindow::setWindowText(const FrameListDelegate::Caption& caption)
+void ViewerWindow::setWindowText(const SequenceDelegate::Caption& caption)
 {
     QString text;
     if (caption.failed)
@@ -232,10 +233,10 @@ void ViewerWindow::setWindowText(const FrameListDelegate::Caption& caption)
                                           : QString());
 }
 
-void ViewerWindow::setFileText(const FrameListDelegate::Caption& caption)
+void ViewerWindow::setFileText(const SequenceDelegate::Caption& caption)
 {
     QString name = DisplayText(std::filesystem::path(caption.path).filename().native());
-    if (caption.framesOfFile > 1 && _delegate.frames().FileCount() > 1) {
+    if (caption.framesOfFile > 1 && caption.framesOfFile < _delegate.photoCountForPhotoView()) {
         const QLocale locale;
         name =
             ViewerWord("%1 (%2 of %3)")

@@ -4,7 +4,7 @@
 #pragma once
 #include "app/views/MUPhotoView.h"
 #include "dicom_core/opening/RecentDocuments.h"
-#include "viewer/FrameListDelegate.h"
+#include "viewer/SequenceDelegate.h"
 #include "viewer/SequenceListModel.h"
 
 #include <QMainWindow>
@@ -43,13 +43,13 @@ private:
     void onPainted();
     void showSequenceAt(const QModelIndex& row);
     void updateStatus();
-    void setFileText(const FrameListDelegate::Caption& caption);
-    void setWindowText(const FrameListDelegate::Caption& caption);
+    void setFileText(const SequenceDelegate::Caption& caption);
+    void setWindowText(const SequenceDelegate::Caption& caption);
 
     ViewerCommands* _commands;
     ZELRecentDocument _document;
     std::unique_ptr<ZELDcmTree> _tree;
-    FrameListDelegate _delegate;
+    SequenceDelegate _delegate;
     SequenceListModel _sequences;  // rows of `_tree`
     QTreeView* _list;
     MUPhotoView* _view;

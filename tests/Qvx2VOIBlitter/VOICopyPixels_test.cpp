@@ -80,6 +80,49 @@ TEST(VOICopyPixels, windows_each_pair_of_formats)
     }
 }
 
+TEST(TableCopyPixels, takes_each_pair_of_formats_through_a_curve)
+{
+    struct Row {
+        const char* fault;
+        std::uint32_t from, to;
+        VOICurve curve;
+        Bytes pixels, wanted;
+        QvxStatus status = kQvxOK;
+    };
+    const Bytes curve = {250, 90, 100, 3};
+    // clang-format off
+    const Row rows[] = {
+        {"clamped at both ends",        k16, k40, {5, curve},   {0, 4, 0, 6, 0, 7, 9, 9}, {250, 90, 100, 3}},
+        {"from below 0",                k16, k8,  {-2, curve},  {0, 0, 0, 1, 0, 2}, {100, 3, 3}},
+        {"wholly below 0",              k16, k8,  {-20, curve}, {0, 0, 255, 255}, {3, 3}},
+        {"wholly above",                k16, k8,  {70000, curve}, {0, 0, 255, 255}, {250, 250}},
+        {"one entry",                   k16, k8,  {9, std::span(curve).first(1)}, {0, 0, 0, 99}, {250, 250}},
+        {"an inverted curve turns",     k16, k32, {5, curve},   {0, 5, 0, 8}, {255, 5, 5, 5, 255, 252, 252, 252}},
+        {"a byte is 255 less its value", k40, k8, {0, curve},   {255, 254, 253, 0}, {250, 90, 100, 3}},
+        {"bytes to ARGB",               k8, k32,  {0, curve},   {255, 0}, {255, 5, 5, 5, 255, 252, 252, 252}},
+        {"mixed words",                 kMixed, k32, {0, curve}, NativeWords({0x00AA0001, 0x01000001}),
+         NativeWords({0xFFA5A5A5, 0x01000001})},
+        {"no entry",                    k16, k8,  {0, {}},      {0, 0}, {7}, kQvxBadArgument},
+        {"no such pair",                k32, k32, {0, curve},   {0, 0, 0, 0}, {7, 7, 7, 7}, kQvxUnsupported},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        Bytes pixels = row.pixels, result(row.wanted.size(), 7);
+        const std::size_t bytesPerPixel = row.to == k32 ? 4 : 1;
+        const auto count = static_cast<std::int16_t>(result.size() / bytesPerPixel);
+        Copy copy;
+        copy.from = copy.to = {0, 0, 1, count};
+        copy.source = MapOf(row.from, pixels, copy.from, static_cast<int>(pixels.size()));
+        copy.target = MapOf(row.to, result, copy.to, static_cast<int>(result.size()));
+        const VOIBlitter fresh;  // the clipping option plays no part
+        EXPECT_EQ(Qvx2_VOIBlit_TableCopyPixels(&fresh, row.curve, &copy.source, &copy.target,
+                                               &copy.from, &copy.to),
+                  row.status)
+            << row.fault;
+        EXPECT_EQ(result, row.wanted) << row.fault;
+    }
+}
+
 TEST(VOICopyPixels, writes_only_its_rectangle_and_clips_to_pixel_bounds)
 {
     Bytes pixels = {0, 1, 0, 2, 0, 3, 9, 9, 0, 4, 0, 5, 0, 6, 9, 9, 0, 7, 0, 8, 0, 9, 9, 9};

@@ -1,8 +1,10 @@
 // Windowing of host-order words: the whole-number table, and rows of any length and alignment.
 #include "Qvx2VOIBlitter/VOIHostKernels.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numeric>
 
 TEST(GetVOIScale16to8, rounds_to_the_nearest_and_cuts_its_length_to_16_bits)
 {
@@ -32,6 +34,36 @@ TEST(ApplyVOITransformation, signed_words_sort_below_zero)
     const VOIHostPixels pixels{-100, 100, source, to.data(), 3, 2, 4};
     EXPECT_EQ(ApplyVOITransformation_SInt16to8(pixels), kQvxOK);
     EXPECT_EQ(to, (std::vector<std::uint8_t>{0, 0, 128, 7, 255, 255, 126, 7}));
+}
+
+// All words, through windows with a table and without, partly and wholly outside of the words.
+TEST(ApplyVOITransformation, all_words_agree_with_the_formula)
+{
+    struct Row {
+        std::int32_t lo, hi;
+    };
+    const Row rows[] = {{-100, 100},      {-32768, -12000}, {-32768, 32767}, {0, 65535},
+                        {-50000, -32000}, {30000, 40000},   {60000, 70000},  {-70000, -60000},
+                        {100000, 100005}, {-10000, 11845},  {-10000, 11846}};
+    std::vector<std::uint16_t> words(65536);
+    std::iota(words.begin(), words.end(), std::uint16_t{0});
+    for (const auto [lo, hi] : rows) {
+        std::vector<std::uint8_t> plain(words.size()), sorted(words.size());
+        ASSERT_EQ(
+            ApplyVOITransformation_UInt16to8({lo, hi, words.data(), plain.data(), 256, 256, 256}),
+            kQvxOK);
+        ASSERT_EQ(
+            ApplyVOITransformation_SInt16to8({lo, hi, words.data(), sorted.data(), 256, 256, 256}),
+            kQvxOK);
+        const auto gray = [&](int value) {
+            const double share = (double(value) - lo) / (hi - lo);
+            return std::floor(std::clamp(share, 0.0, 1.0) * 255 + 0.5);
+        };
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            ASSERT_EQ(plain[i], gray(words[i])) << lo << " " << i;
+            ASSERT_EQ(sorted[i], gray(static_cast<std::int16_t>(words[i]))) << lo << " " << i;
+        }
+    }
 }
 
 // The row is cut at 32-byte boundaries of the destination; every start and length must agree with

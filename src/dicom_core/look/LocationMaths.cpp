@@ -111,3 +111,18 @@ CGPoint U_FlipLocation(bool horizontally, bool vertically, const XRect& rect, CG
         point.y = static_cast<float>(rect.bottom - rect.top - point.y);
     return point;
 }
+
+Rect FitRectScaledProp(const Rect& size, const Rect& into, bool centered)
+{
+    if (EmptyRect(size) || EmptyRect(into))
+        return {};
+    const double width = size.right - size.left, height = size.bottom - size.top;
+    const int roomWidth = into.right - into.left, roomHeight = into.bottom - into.top;
+    const double scale = std::min(roomWidth / width, roomHeight / height);
+    const int fitWidth = std::clamp(static_cast<int>(std::lround(width * scale)), 1, roomWidth);
+    const int fitHeight = std::clamp(static_cast<int>(std::lround(height * scale)), 1, roomHeight);
+    const int top = into.top + (centered ? (roomHeight - fitHeight) / 2 : 0);
+    const int left = into.left + (centered ? (roomWidth - fitWidth) / 2 : 0);
+    return {static_cast<std::int16_t>(top), static_cast<std::int16_t>(left),
+            static_cast<std::int16_t>(top + fitHeight), static_cast<std::int16_t>(left + fitWidth)};
+}

@@ -31,3 +31,6 @@ void FitRectIntoRect(const LongRect& size, const LongRect& into, LongRect* resul
 // first flag, top to bottom with the second.
 [[nodiscard]] CGPoint U_FlipLocation(bool horizontally, bool vertically, const XRect& rect,
                                      CGPoint point);
+// `size` scaled in its proportions until it just fits into the other, centred or at its top left
+// corner; empty when either is.
+[[nodiscard]] Rect FitRectScaledProp(const Rect& size, const Rect& into, bool centered);

@@ -1,6 +1,6 @@
+#include "tool/demo/DemoHeader.h"
 #include "tool/demo/DemoNoise.h"
 #include "tool/demo/DemoSeries.h"
-#include "util/ByteOrder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,9 +13,21 @@ constexpr double kFirst_mm = -(kSize - 1) * kPixel_mm / 2;  // centre of the fir
 constexpr double kTop_mm = 150;                             // height of the first slice
 constexpr int kIntercept = -1024;
 
-constexpr DemoSeries kVolume = {2,       "CT",    kUidCTImageStorage, "Chest and abdomen 5.0",
-                                "CHEST", "101530"};
-constexpr DemoSeries kLocalizer = {1, "CT", kUidCTImageStorage, "Localizer", "CHEST", "101510"};
+constexpr std::string_view kUidCT = "1.2.840.10008.5.1.4.1.1.2";
+constexpr DemoSeries kVolume = {.number = 2,
+                                .modality = "CT",
+                                .sopClass = kUidCT,
+                                .description = "Chest and abdomen 5.0",
+                                .bodyPart = "CHEST",
+                                .time = "101530"};
+constexpr DemoSeries kLocalizer = {.number = 1,
+                                   .modality = "CT",
+                                   .sopClass = kUidCT,
+                                   .description = "Localizer",
+                                   .bodyPart = "CHEST",
+                                   .time = "101510",
+                                   .syntax = DemoSyntax::Deflated};
+constexpr DemoPixelForm kForm = {.rows = kSize, .columns = kSize};
 
 std::size_t At(int row, int column)
 {
@@ -49,14 +61,11 @@ void AddCouch(DemoSlice* slice)
                                    DemoEllipse::Turned(0, 142, 198, 17.5, 0, -940)});
 }
 
-std::string StoredValues(const std::vector<float>& hounsfield)
+std::string StoredValues(std::vector<float> hounsfield)
 {
-    std::string bytes(hounsfield.size() * 2, '\0');
-    for (std::size_t i = 0; i < hounsfield.size(); ++i) {
-        const float stored = std::clamp(hounsfield[i] - kIntercept + 0.5F, 0.0F, 4095.0F);
-        StoreLE(bytes.data() + 2 * i, static_cast<std::uint16_t>(stored));
-    }
-    return bytes;
+    for (float& value : hounsfield)
+        value -= kIntercept;
+    return DemoStoredValues(hounsfield, 0, 4095);
 }
 
 std::string SlicePixels(const DemoPhantom& phantom, double z, std::uint64_t seed)
@@ -104,7 +113,6 @@ DemoDataSet ScannerHeader(const DemoSeries& series, int instance)
     dataSet.Integer(0x00200012, series.number);
     dataSet.Text(0x00200052, "UI", DemoFrameOfReferenceUid());
     dataSet.Text(0x00201040, "LO", "");
-    DemoHeader_AddPixelForm(&dataSet, {.rows = kSize, .columns = kSize});
     dataSet.Decimals(0x00280030, {kPixel_mm, kPixel_mm});
     dataSet.Decimals(0x00281052, {kIntercept});
     dataSet.Decimals(0x00281053, {1});
@@ -137,13 +145,11 @@ DemoDataSet SliceHeader(int instance, double z)
 
 QvxStatus WriteDemoCT(const DemoPhantom& phantom, DemoFolder* folder)
 {
-    if (const QvxStatus status = folder->MakeFolder("CT"))
-        return status;
     for (int instance = 1; instance <= kSlices; ++instance) {
         const double z = kTop_mm - (instance - 1) * kSpacing_mm;
-        DemoDataSet dataSet = SliceHeader(instance, z);
-        dataSet.Pixels(SlicePixels(phantom, z, static_cast<std::uint64_t>(instance) << 32), "OW");
-        if (const QvxStatus status = folder->WriteFile(DemoFileName("CT", instance), dataSet))
+        const auto pixels = SlicePixels(phantom, z, static_cast<std::uint64_t>(instance) << 32);
+        if (const QvxStatus status = DemoImage_Write(
+                folder, kVolume, instance, SliceHeader(instance, z), kForm, {pixels}))
             return status;
     }
     return kQvxOK;
@@ -151,8 +157,6 @@ QvxStatus WriteDemoCT(const DemoPhantom& phantom, DemoFolder* folder)
 
 QvxStatus WriteDemoLocalizer(const DemoPhantom& phantom, DemoFolder* folder)
 {
-    if (const QvxStatus status = folder->MakeFolder("LOCALIZER"))
-        return status;
     DemoDataSet dataSet = ScannerHeader(kLocalizer, 1);
     dataSet.Text(0x00080008, "CS", "ORIGINAL\\PRIMARY\\LOCALIZER");
     dataSet.Text(0x00180050, "DS", "");
@@ -160,6 +164,6 @@ QvxStatus WriteDemoLocalizer(const DemoPhantom& phantom, DemoFolder* folder)
     dataSet.Decimals(0x00200037, {1, 0, 0, 0, 0, -1});
     dataSet.Decimals(0x00281050, {-480});
     dataSet.Decimals(0x00281051, {1000});
-    dataSet.Pixels(LocalizerPixels(phantom), "OW");
-    return folder->WriteFile(DemoFileName("LOCALIZER", 1), dataSet);
+    return DemoImage_Write(folder, kLocalizer, 1, std::move(dataSet), kForm,
+                           {LocalizerPixels(phantom)});
 }

@@ -1,4 +1,5 @@
 #include "tool/demo/DemoGlyphs.h"
+#include "tool/demo/DemoHeader.h"
 #include "tool/demo/DemoSeries.h"
 
 #include <algorithm>
@@ -16,7 +17,13 @@ struct Colour {
 };
 constexpr Colour kBackground = {40, 42, 46}, kInk = {235, 235, 235};
 
-constexpr DemoSeries kSeries = {4, "OT", kUidSecondaryCapture, "Colour chart", "", "103000"};
+constexpr DemoSeries kSeries = {.number = 4,
+                                .modality = "OT",
+                                .sopClass = "1.2.840.10008.5.1.4.1.1.7",
+                                .description = "Colour chart",
+                                .bodyPart = "",
+                                .time = "103000",
+                                .syntax = DemoSyntax::RLE};
 
 class Picture {
 public:
@@ -146,10 +153,8 @@ void DrawTarget(Picture* picture)
 
 }  // namespace
 
-QvxStatus WriteDemoChart(DemoFolder* folder)
+QvxStatus WriteDemoChart(const DemoPhantom& /*phantom*/, DemoFolder* folder)
 {
-    if (const QvxStatus status = folder->MakeFolder("SC"))
-        return status;
     Picture picture;
     picture.Write(kMargin, 28, 5, "ZELORA DEMO");
     picture.Write(520, 42, 3, "RGB CHART 1024 X 768");
@@ -165,7 +170,6 @@ QvxStatus WriteDemoChart(DemoFolder* folder)
     dataSet.Text(0x00080008, "CS", "DERIVED\\SECONDARY");
     dataSet.Text(0x00080064, "CS", "WSD");
     dataSet.Text(0x00200020, "CS", "");
-    DemoHeader_AddPixelForm(&dataSet, {kRows, kColumns, 3, 8, 8});
-    dataSet.Pixels(picture.TakeBytes(), "OB");
-    return folder->WriteFile(DemoFileName("SC", 1), dataSet);
+    return DemoImage_Write(folder, kSeries, 1, std::move(dataSet),
+                           {kRows, kColumns, 3, 8, 8, false, "RGB"}, {picture.TakeBytes()});
 }

@@ -1,41 +1,70 @@
 #include "tool/demo/DemoGlyphs.h"
+#include "tool/demo/DemoHeader.h"
 #include "tool/demo/DemoNoise.h"
 #include "tool/demo/DemoSeries.h"
-#include "util/ByteOrder.h"
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace {
 
-constexpr int kColumns = 2000, kRows = 2500;
-constexpr double kDetector_mm = 0.168, kMagnification = 1.05;
-constexpr double kPatient_mm = kDetector_mm / kMagnification;  // 0.16
-constexpr double kTop_mm = 206;                                // height of the first row
+constexpr double kMagnification = 1.05;
+constexpr double kTop_mm = 206;  // height of the first row
 constexpr float kWhitest = 4095;
 
 // Rays are followed for every second pixel of every second row and smoothed in between, which is
 // about as sharp as a detector is.
 constexpr int kStep = 2;
-constexpr int kRays = kColumns / kStep, kLines = kRows / kStep;
 
-constexpr DemoSeries kSeries = {3, "DX", kUidDXForPresentation, "Chest PA", "CHEST", "102000"};
+// One exposure. Pixels are square.
+struct View {
+    double angle;  // by which the rays turn from the y axis, radians
+    int columns, rows;
+    double detector_mm;
+    float coarse, fine;  // weight of differences over wide and narrow places
+    int markerLeft;      // where the lead letter lies
+    [[nodiscard]] int Rays() const { return columns / kStep; }
+    [[nodiscard]] int Lines() const { return rows / kStep; }
+    [[nodiscard]] constexpr double Patient_mm() const { return detector_mm / kMagnification; }
+    [[nodiscard]] std::size_t At(int line, int ray) const
+    {
+        return static_cast<std::size_t>(line) * static_cast<std::size_t>(Rays()) +
+               static_cast<std::size_t>(ray);
+    }
+};
+constexpr View kFrontal = {0, 2000, 2500, 0.168, 10.5F, 22, 1790};
+constexpr View kLateral = {std::numbers::pi / 2, 1280, 1640, 0.255, 7.0F, 16, 1120};
 
-using Map = std::vector<float>;  // kRays by kLines
+constexpr DemoSeries kFrontalSeries = {.number = 3,
+                                       .modality = "DX",
+                                       .sopClass = "1.2.840.10008.5.1.4.1.1.1.1",
+                                       .description = "Chest PA",
+                                       .bodyPart = "CHEST",
+                                       .time = "102000",
+                                       .syntax = DemoSyntax::JPEGLossless};
+// "Chest, lateral" in JIS X 0208.
+constexpr DemoSeries kLateralSeries = {.patient = DemoPatient::Hanako,
+                                       .number = 2,
+                                       .modality = "CR",
+                                       .sopClass = "1.2.840.10008.5.1.4.1.1.1",
+                                       .description = "\x1b$B6;ItB&LL\x1b(B",
+                                       .bodyPart = "CHEST",
+                                       .time = "093000",
+                                       .syntax = DemoSyntax::JPEGLS};
 
-std::size_t At(int line, int ray)
+using Map = std::vector<float>;  // a view's Rays() by its Lines()
+
+Map WaterThickness(const DemoPhantom& phantom, const View& view)
 {
-    return static_cast<std::size_t>(line) * kRays + static_cast<std::size_t>(ray);
-}
-
-Map WaterThickness(const DemoPhantom& phantom)
-{
-    constexpr double kPitch = kPatient_mm * kStep;
-    Map map(std::size_t{kRays} * kLines), row(kRays);
-    for (int line = 0; line < kLines; ++line) {
-        const DemoSlice slice = phantom.SliceAt(kTop_mm - (line + 0.5) * kPitch);
-        DemoSlice_Project(slice, -(kRays - 1) * kPitch / 2, kPitch, &row);
-        std::ranges::copy(row, map.begin() + static_cast<std::ptrdiff_t>(At(line, 0)));
+    const double pitch = view.Patient_mm() * kStep;
+    const int rays = view.Rays();
+    Map map(view.At(view.Lines(), 0)), row(static_cast<std::size_t>(rays));
+    for (int line = 0; line < view.Lines(); ++line) {
+        const DemoSlice slice = phantom.SliceAt(kTop_mm - (line + 0.5) * pitch);
+        DemoSlice_Project(DemoSlice_Turned(slice, view.angle), -(rays - 1) * pitch / 2, pitch,
+                          &row);
+        std::ranges::copy(row, map.begin() + static_cast<std::ptrdiff_t>(view.At(line, 0)));
     }
     return map;
 }
@@ -56,108 +85,103 @@ void Average(float* values, int count, std::ptrdiff_t stride, int reach, Map* sc
         values[i * stride] = (*scratch)[static_cast<std::size_t>(i)];
 }
 
-Map Blurred(Map map, int reach)
+Map Blurred(Map map, const View& view, int reach)
 {
-    Map scratch(std::max(kRays, kLines));
+    Map scratch(static_cast<std::size_t>(std::max(view.Rays(), view.Lines())));
     for (int pass = 0; pass < 2; ++pass) {
-        for (int line = 0; line < kLines; ++line)
-            Average(map.data() + At(line, 0), kRays, 1, reach, &scratch);
-        for (int ray = 0; ray < kRays; ++ray)
-            Average(map.data() + ray, kLines, kRays, reach, &scratch);
+        for (int line = 0; line < view.Lines(); ++line)
+            Average(map.data() + view.At(line, 0), view.Rays(), 1, reach, &scratch);
+        for (int ray = 0; ray < view.Rays(); ++ray)
+            Average(map.data() + ray, view.Lines(), view.Rays(), reach, &scratch);
     }
     return map;
 }
 
 // As a radiograph is prepared for reading: coarse differences pressed together, fine ones raised.
-Map ForReading(const Map& water)
+Map ForReading(const Map& water, const View& view)
 {
-    constexpr float kCoarse = 10.5F, kFine = 22, kDarkest = 150;
-    const Map coarse = Blurred(water, 45);
+    constexpr float kDarkest = 150;
+    const Map coarse = Blurred(water, view, 45);
     Map map(water.size());
     for (std::size_t i = 0; i < map.size(); ++i) {
         const float body = std::min(1.0F, water[i] / 40);  // the air beside the body stays black
-        map[i] = kDarkest + body * (kCoarse * coarse[i] + kFine * (water[i] - coarse[i]));
+        map[i] = kDarkest + body * (view.coarse * coarse[i] + view.fine * (water[i] - coarse[i]));
     }
     return map;
 }
 
-// The lead letter beside the patient's left shoulder.
-void PlaceMarker(std::vector<float>* image)
+// The lead letter beside the patient.
+void PlaceMarker(const View& view, std::vector<float>* image)
 {
-    constexpr int kDot = 14, kLeft = 1790, kTop = 160;
+    constexpr int kDot = 14, kTop = 160;
     DemoGlyphs_Draw("L", [&](int dotX, int dotY) {
         for (int i = 0; i < kDot * kDot; ++i) {
-            const int x = kLeft + dotX * kDot + i % kDot, y = kTop + dotY * kDot + i / kDot;
-            (*image)[static_cast<std::size_t>(y) * kColumns + static_cast<std::size_t>(x)] = 3900;
+            const int x = view.markerLeft + dotX * kDot + i % kDot;
+            const int y = kTop + dotY * kDot + i / kDot;
+            (*image)[static_cast<std::size_t>(y * view.columns + x)] = 3900;
         }
     });
 }
 
-std::vector<float> Enlarged(const Map& map)
+std::vector<float> Enlarged(const Map& map, const View& view)
 {
-    std::vector<float> image(std::size_t{kColumns} * kRows);
-    for (int y = 0; y < kRows; ++y) {
+    std::vector<float> image;
+    image.reserve(map.size() * kStep * kStep);
+    for (int y = 0; y < view.rows; ++y) {
         // Pixel centres stand a quarter of a step beside the rays.
         const int line = y / kStep;
-        const int nextLine = std::clamp(line + (y % kStep ? 1 : -1), 0, kLines - 1);
-        for (int x = 0; x < kColumns; ++x) {
+        const int nextLine = std::clamp(line + (y % kStep ? 1 : -1), 0, view.Lines() - 1);
+        for (int x = 0; x < view.columns; ++x) {
             const int ray = x / kStep;
-            const int nextRay = std::clamp(ray + (x % kStep ? 1 : -1), 0, kRays - 1);
-            const float near = 3 * map[At(line, ray)] + map[At(line, nextRay)];
-            const float far = 3 * map[At(nextLine, ray)] + map[At(nextLine, nextRay)];
-            image[static_cast<std::size_t>(y) * kColumns + static_cast<std::size_t>(x)] =
-                (3 * near + far) / 16;
+            const int nextRay = std::clamp(ray + (x % kStep ? 1 : -1), 0, view.Rays() - 1);
+            const float near = 3 * map[view.At(line, ray)] + map[view.At(line, nextRay)];
+            const float far = 3 * map[view.At(nextLine, ray)] + map[view.At(nextLine, nextRay)];
+            image.push_back((3 * near + far) / 16);
         }
     }
     return image;
 }
 
-std::string Pixels(const DemoPhantom& phantom)
+// What absorbs is bright.
+std::vector<float> Image(const DemoPhantom& phantom, const View& view)
 {
     constexpr float kNoise = 14;
-    std::vector<float> image = Enlarged(ForReading(WaterThickness(phantom)));
-    PlaceMarker(&image);
+    std::vector<float> image = Enlarged(ForReading(WaterThickness(phantom, view), view), view);
+    PlaceMarker(view, &image);
     DemoNoise noise(3);
-    std::string bytes(image.size() * 2, '\0');
-    for (std::size_t i = 0; i < image.size(); ++i) {
-        const float value = std::clamp(image[i] + kNoise * noise.Normal() + 0.5F, 0.0F, kWhitest);
-        StoreLE(bytes.data() + 2 * i, static_cast<std::uint16_t>(value));
-    }
-    return bytes;
+    for (float& value : image)
+        value += kNoise * noise.Normal();
+    return image;
 }
 
 void AddProjectionHeader(DemoDataSet* dataSet)
 {
     dataSet->Text(0x00080008, "CS", "ORIGINAL\\PRIMARY\\");
     dataSet->Text(0x00080068, "CS", "FOR PRESENTATION");
-    DemoDataSet region;
-    region.Text(0x00080100, "SH", "51185008");
-    region.Text(0x00080102, "SH", "SCT");
-    region.Text(0x00080104, "LO", "Chest");
-    dataSet->Item(0x00082218, region);
+    dataSet->Item(0x00082218, DemoCode("51185008", "SCT", "Chest"));
     dataSet->Decimals(0x00180060, {125});
     dataSet->Decimals(0x00181110, {1800});
     dataSet->Decimals(0x00181111, {1800 / kMagnification});
     dataSet->Decimals(0x00181114, {kMagnification});
     dataSet->Integer(0x00181150, 10);
-    dataSet->Decimals(0x00181164, {kDetector_mm, kDetector_mm});
+    dataSet->Decimals(0x00181164, {kFrontal.detector_mm, kFrontal.detector_mm});
     dataSet->Text(0x00181508, "CS", "NONE");
     dataSet->Text(0x00185101, "CS", "PA");
     dataSet->Text(0x00187004, "CS", "DIRECT");
     dataSet->Text(0x00200020, "CS", "L\\F");
     dataSet->Text(0x00200062, "CS", "U");
+    dataSet->Items(0x00400555, {});
+    dataSet->Item(0x00540220, DemoCode("399348003", "SCT", "postero-anterior"));
 }
 
 }  // namespace
 
 QvxStatus WriteDemoRadiograph(const DemoPhantom& phantom, DemoFolder* folder)
 {
-    if (const QvxStatus status = folder->MakeFolder("DX"))
-        return status;
-    DemoDataSet dataSet = DemoHeader(kSeries, 1);
+    constexpr double kPixel_mm = kFrontal.Patient_mm();
+    DemoDataSet dataSet = DemoHeader(kFrontalSeries, 1);
     AddProjectionHeader(&dataSet);
-    DemoHeader_AddPixelForm(&dataSet, {.rows = kRows, .columns = kColumns});
-    dataSet.Decimals(0x00280030, {kPatient_mm, kPatient_mm});
+    dataSet.Decimals(0x00280030, {kPixel_mm, kPixel_mm});
     dataSet.Text(0x00280301, "CS", "NO");
     dataSet.Text(0x00280A02, "CS", "GEOMETRY");
     dataSet.Text(0x00280A04, "LO", "At the middle of the body");
@@ -170,6 +194,27 @@ QvxStatus WriteDemoRadiograph(const DemoPhantom& phantom, DemoFolder* folder)
     dataSet.Text(0x00281054, "LO", "US");
     dataSet.Text(0x00282110, "CS", "00");
     dataSet.Text(0x20500020, "CS", "IDENTITY");
-    dataSet.Pixels(Pixels(phantom), "OW");
-    return folder->WriteFile(DemoFileName("DX", 1), dataSet);
+    return DemoImage_Write(folder, kFrontalSeries, 1, std::move(dataSet),
+                           {.rows = kFrontal.rows, .columns = kFrontal.columns},
+                           {DemoStoredValues(Image(phantom, kFrontal), 0, kWhitest)});
+}
+
+// As older plates are read: what absorbs has low values, and the lowest is to be shown white.
+QvxStatus WriteDemoLateral(const DemoPhantom& phantom, DemoFolder* folder)
+{
+    std::vector<float> image = Image(phantom, kLateral);
+    std::ranges::transform(image, image.begin(), [](float value) { return kWhitest - value; });
+    DemoDataSet dataSet = DemoHeader(kLateralSeries, 1);
+    dataSet.Text(0x00080008, "CS", "ORIGINAL\\PRIMARY");
+    dataSet.Decimals(0x00180060, {125});
+    dataSet.Text(0x00181260, "SH", "STORAGE PHOSPHOR");
+    dataSet.Text(0x00185101, "CS", "LL");
+    dataSet.Decimals(0x00181164, {kLateral.detector_mm, kLateral.detector_mm});
+    dataSet.Text(0x00200020, "CS", "P\\F");
+    dataSet.Decimals(0x00281050, {kWhitest - 2000});
+    dataSet.Decimals(0x00281051, {3000});
+    return DemoImage_Write(
+        folder, kLateralSeries, 1, std::move(dataSet),
+        {.rows = kLateral.rows, .columns = kLateral.columns, .photometric = "MONOCHROME1"},
+        {DemoStoredValues(image, 0, kWhitest)});
 }

@@ -89,6 +89,21 @@ std::optional<DemoInterval> DemoEllipse::AlongY(double lineX) const
     return span;
 }
 
+DemoSlice DemoSlice_Turned(const DemoSlice& slice, double angle)
+{
+    const double u = std::cos(angle), v = std::sin(angle);
+    DemoSlice turned = slice;
+    for (DemoEllipse& e : turned) {
+        const DemoEllipse old = e;
+        e.x = old.x * u + old.y * v;
+        e.y = old.y * u - old.x * v;
+        e.a = old.a * u * u + 2 * old.b * u * v + old.c * v * v;
+        e.b = (old.c - old.a) * u * v + old.b * (u * u - v * v);
+        e.c = old.a * v * v - 2 * old.b * u * v + old.c * u * u;
+    }
+    return turned;
+}
+
 DemoEllipsoid::DemoEllipsoid(DemoPoint centre, DemoPoint radii, float hu, double angle)
     : fCentre(centre), fXZ(0), fYZ(0), fZZ(1 / (radii.z * radii.z)), fHU(hu)
 {

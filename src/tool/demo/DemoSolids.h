@@ -32,6 +32,10 @@ struct DemoEllipse {
 
 using DemoSlice = std::vector<DemoEllipse>;  // a later one covers an earlier one
 
+// The slice in axes turned by `angle` (radians): the new x axis goes along (cos, sin) of the old
+// ones, the new y axis along (-sin, cos).
+[[nodiscard]] DemoSlice DemoSlice_Turned(const DemoSlice& slice, double angle);
+
 // An ellipsoid in any position.
 class DemoEllipsoid {
 public:

@@ -9,14 +9,19 @@ namespace {
 QvxStatus WriteAll(DemoFolder* folder)
 {
     const DemoPhantom phantom;
-    QvxStatus status = folder->MakeFolder("");
-    if (status == kQvxOK)
-        status = WriteDemoCT(phantom, folder);
-    if (status == kQvxOK)
-        status = WriteDemoLocalizer(phantom, folder);
-    if (status == kQvxOK)
-        status = WriteDemoRadiograph(phantom, folder);
-    return status == kQvxOK ? WriteDemoChart(folder) : status;
+    // By patient and series, as the directory wants it.
+    static constexpr QvxStatus (*kSeries[])(const DemoPhantom&, DemoFolder*) = {
+        WriteDemoLocalizer, WriteDemoCT,        WriteDemoRadiograph, WriteDemoChart,
+        WriteDemoObliqueMR, WriteDemoPET,       WriteDemoEnhancedMR, WriteDemoUltrasound,
+        WriteDemoLateral,   WriteDemoAngiogram, WriteDemoPolarMap,   WriteDemoOverlays,
+    };
+    if (const QvxStatus status = folder->MakeFolder(""))
+        return status;
+    for (const auto write : kSeries) {
+        if (const QvxStatus status = write(phantom, folder))
+            return status;
+    }
+    return folder->WriteDirectory();
 }
 
 }  // namespace
@@ -27,7 +32,7 @@ QvxStatus WriteDemoStudy(const std::string& folder, std::string* failure)
         DemoFolder files(folder);
         const QvxStatus status = WriteAll(&files);
         if (status != kQvxOK)
-            *failure = files.Failure();
+            *failure = files.Failure().empty() ? StatusText(status) : files.Failure();
         return status;
     } catch (const std::bad_alloc&) {
         *failure = StatusText(kQvxNoMemory);

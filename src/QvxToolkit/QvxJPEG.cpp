@@ -1,0 +1,151 @@
+// JPEG frames: which library takes a stream, and what its colours are.
+#include "QvxToolkit/QvxJPEGHeader.h"
+#include "QvxToolkit/QvxJPEGModule.h"
+#include "QvxToolkit/QvxModule.h"
+#include "QvxToolkit/QvxStreamDecoders.h"
+#include <array>
+#include <memory>
+#include <turbojpeg.h>
+
+namespace {
+
+bool SaysYBR(QvxPhotometric kind)
+{
+    return kind == QvxPhotometric::YBRFull || kind == QvxPhotometric::YBRFull422 ||
+           kind == QvxPhotometric::YBRPartial || kind == QvxPhotometric::YBRICT ||
+           kind == QvxPhotometric::YBRRCT;
+}
+
+// What the components of a lossy stream are: the stream's own word first, then the file's. Chroma
+// that is coarser than luminance is chroma, whatever the file calls it.
+bool HoldsYBR(const QvxFrameRecord& record, const QvxJPEGHeader& header)
+{
+    if (header.fComponents != 3)
+        return false;
+    if (header.fAdobeTransform >= 0)
+        return header.fAdobeTransform != 0;
+    if (header.fJFIF || header.IsSubsampled())
+        return true;
+    const auto& parts = header.fComponent;
+    if (parts[0].fID == 'R' && parts[1].fID == 'G' && parts[2].fID == 'B')
+        return false;
+    return SaysYBR(record.fPhotometric);
+}
+
+struct TurboClose {
+    void operator()(void* handle) const { tjDestroy(handle); }
+};
+using TurboHandle = std::unique_ptr<void, TurboClose>;
+
+// What the plain library takes a stream of three components for.
+bool TurboTakesYBR(const QvxJPEGHeader& header)
+{
+    if (header.fJFIF || header.fAdobeTransform >= 0)
+        return header.fJFIF || header.fAdobeTransform != 0;
+    const auto& parts = header.fComponent;
+    return parts[0].fID != 'R' || parts[1].fID != 'G' || parts[2].fID != 'B';
+}
+
+QvxStatus DecodeByTurbo(const QvxJPEGHeader& header, std::span<const std::uint8_t> stream,
+                        QvxBytes* samples, bool* cut, std::string* why)
+{
+    const TurboHandle handle(tjInitDecompress());
+    if (!handle)
+        return kQvxNoMemory;
+    const int format = header.fComponents == 1 ? TJPF_GRAY : TJPF_RGB;
+    const int width = static_cast<int>(header.fColumns), height = static_cast<int>(header.fRows);
+    const int result =
+        tjDecompress2(handle.get(), stream.data(), static_cast<unsigned long>(stream.size()),
+                      samples->data(), width, 0, height, format, TJFLAG_ACCURATEDCT);
+    if (result == 0)
+        return kQvxOK;
+    if (tjGetErrorCode(handle.get()) == TJERR_WARNING) {
+        *cut = true;
+        return kQvxOK;
+    }
+    *why = tjGetErrorStr2(handle.get());
+    return kQvxMalformed;
+}
+
+QvxStatus DecodeByModule(const QvxJPEGHeader& header, bool turn,
+                         std::span<const std::uint8_t> stream, QvxBytes* samples, bool* cut,
+                         std::string* why)
+{
+    const auto decode =
+        reinterpret_cast<QvxJPEGDecode>(QvxModuleFunction(kQvxJPEGModule, kQvxJPEGFunction, why));
+    if (!decode)
+        return kQvxUnsupported;
+    std::array<char, 256> reason{};
+    QvxJPEGRequest request;
+    request.fStream = stream.data();
+    request.fStreamBytes = stream.size();
+    request.fPrecision = header.fPrecision;
+    request.fTurnToRGB = turn ? 1 : 0;
+    request.fSamples = samples->data();
+    request.fSampleBytes = samples->size();
+    request.fReason = reason.data();
+    request.fReasonBytes = reason.size();
+    const std::int32_t result = decode(&request);
+    *cut = result == kQvxJPEGCut;
+    if (result == kQvxJPEGFailed)
+        *why = reason.data();
+    return result == kQvxJPEGFailed ? kQvxMalformed : kQvxOK;
+}
+
+QvxStatus CheckHeader(const QvxFrameRecord& record, const QvxJPEGHeader& header,
+                      const QvxStreamFacts& facts, std::size_t streamBytes, std::string* why)
+{
+    if (!header.IsDCT() && !header.IsLossless()) {
+        *why = "a JPEG stream of a kind that there is no decoder of";
+        return kQvxUnsupported;
+    }
+    if (header.fScans > kMaxJPEGScans) {
+        *why = "a JPEG stream of more than " + std::to_string(kMaxJPEGScans) + " scans";
+        return kQvxUnsupported;
+    }
+    if (header.fPrecision > 16 ||
+        (header.IsDCT() && header.fPrecision != 8 && header.fPrecision != 12)) {
+        *why = "a JPEG stream of " + std::to_string(header.fPrecision) + " bits";
+        return kQvxUnsupported;
+    }
+    if (const QvxStatus status = QvxCheckStream(record, facts, why))
+        return status;
+    // A block of 64 samples takes some bits, however flat; nothing is set aside on a header's word.
+    constexpr std::uint64_t kMostPixelsOfByte = 4096;
+    if (record.Pixels() / kMostPixelsOfByte > streamBytes) {
+        *why = "the stream is far too short for its frame";
+        return kQvxMalformed;
+    }
+    return kQvxOK;
+}
+
+}  // namespace
+
+QvxStatus QvxDecodeJPEG(const QvxFrameRecord& record, const QvxStream& stream, DecodedFrame* frame,
+                        std::string* why)
+{
+    QvxJPEGHeader header;
+    if (!QvxReadJPEGHeader(stream.Bytes(), &header, why))
+        return kQvxMalformed;
+    const QvxStreamFacts facts{header.fRows, header.fColumns, header.fComponents, header.fPrecision,
+                               header.IsDCT()};
+    if (const QvxStatus status = CheckHeader(record, header, facts, stream.fBytes.size(), why))
+        return status;
+    QvxBytes samples =
+        QvxTakeBlock(frame, record.Pixels() * facts.fSamples * QvxSampleBytes(facts.fPrecision));
+    const bool ybr = header.IsDCT() && HoldsYBR(record, header);
+    // Where the plain library would read the colours otherwise, the module does as it is told.
+    const bool plain = header.IsDCT() && header.fPrecision == 8 &&
+                       (header.fComponents == 1 || TurboTakesYBR(header) == ybr);
+    bool cut = false;
+    const QvxStatus status = plain
+                                 ? DecodeByTurbo(header, stream.Bytes(), &samples, &cut, why)
+                                 : DecodeByModule(header, ybr, stream.Bytes(), &samples, &cut, why);
+    if (status)
+        return status;
+    const bool lossy = header.IsDCT();
+    QvxTakeSamples(record, facts, lossy ? QvxStreamColor::RGB : QvxStreamColor::AsFileSays,
+                   std::move(samples), frame);
+    frame->fCutShort = stream.fCutShort || cut;
+    return kQvxOK;
+}
