@@ -23,8 +23,9 @@ constexpr DemoSeries kSeries = {.patient = DemoPatient::Eleni,
                                 .number = 1,
                                 .modality = "XA",
                                 .sopClass = "1.2.840.10008.5.1.4.1.1.12.1",
-                                .description = "\xC1\xF1\xE9\xF3\xF4\xE5\xF1\xDE "
-                                               "\xF3\xF4\xE5\xF6\xE1\xED\xE9\xE1\xDF\xE1",
+                                .description =
+                                    "\xC1\xF1\xE9\xF3\xF4\xE5\xF1\xDE "
+                                    "\xF3\xF4\xE5\xF6\xE1\xED\xE9\xE1\xDF\xE1",
                                 .bodyPart = "HEART",
                                 .time = "134500",
                                 .syntax = DemoSyntax::JPEGLossless};

@@ -148,8 +148,8 @@ QvxStatus WriteDemoCT(const DemoPhantom& phantom, DemoFolder* folder)
     for (int instance = 1; instance <= kSlices; ++instance) {
         const double z = kTop_mm - (instance - 1) * kSpacing_mm;
         const auto pixels = SlicePixels(phantom, z, static_cast<std::uint64_t>(instance) << 32);
-        if (const QvxStatus status = DemoImage_Write(
-                folder, kVolume, instance, SliceHeader(instance, z), kForm, {pixels}))
+        if (const QvxStatus status = DemoImage_Write(folder, kVolume, instance,
+                                                     SliceHeader(instance, z), kForm, {pixels}))
             return status;
     }
     return kQvxOK;

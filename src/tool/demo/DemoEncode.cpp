@@ -8,18 +8,18 @@ QvxStatus DemoEncode_Frame(DemoSyntax syntax, const DemoPixelForm& form, std::st
                            std::string* stream)
 {
     switch (syntax) {
-    case DemoSyntax::RLE:
-        return DemoEncode_RLE(form, pixels, stream);
-    case DemoSyntax::JPEGBaseline:
-        return DemoEncode_JPEG(form, pixels, stream);
-    case DemoSyntax::JPEGLossless:
-        return DemoEncode_JPEGLossless(form, pixels, stream);
-    case DemoSyntax::JPEGLS:
-        return DemoEncode_JPEGLS(form, pixels, stream);
-    case DemoSyntax::JPEG2000:
-        return DemoEncode_JPEG2000(form, pixels, stream);
-    default:
-        return kQvxUnsupported;
+        case DemoSyntax::RLE:
+            return DemoEncode_RLE(form, pixels, stream);
+        case DemoSyntax::JPEGBaseline:
+            return DemoEncode_JPEG(form, pixels, stream);
+        case DemoSyntax::JPEGLossless:
+            return DemoEncode_JPEGLossless(form, pixels, stream);
+        case DemoSyntax::JPEGLS:
+            return DemoEncode_JPEGLS(form, pixels, stream);
+        case DemoSyntax::JPEG2000:
+            return DemoEncode_JPEG2000(form, pixels, stream);
+        default:
+            return kQvxUnsupported;
     }
 }
 

@@ -1,6 +1,7 @@
 #include "tool/demo/DemoEncode.h"
 #include "tool/demo/DemoHeader.h"
 
+#include <algorithm>
 #include <exception>
 #include <memory>
 #include <openjpeg.h>
@@ -93,6 +94,8 @@ QvxStatus DemoEncode_JPEG2000(const DemoPixelForm& form, std::string_view pixels
     parameters.tcp_numlayers = 1;
     parameters.tcp_rates[0] = 0;  // all of it: reversible
     parameters.cp_disto_alloc = 1;
+    while (1 << (parameters.numresolution - 1) > std::min(form.rows, form.columns))
+        --parameters.numresolution;  // a picture can't be halved more often
     if (!opj_setup_encoder(codec.get(), &parameters, image.get()) ||
         !opj_start_compress(codec.get(), image.get(), sink.get()) ||
         !opj_encode(codec.get(), sink.get()) || !opj_end_compress(codec.get(), sink.get()))

@@ -13,13 +13,13 @@ namespace {
 
 constexpr std::size_t kCategories = 17;  // of differences, by their number of bits
 // Code lengths from the most frequent category on. Together they leave the code of ones only free.
-constexpr std::array<int, kCategories> kLengths = {2, 2, 3, 3,  3,  4,  5,  6, 7,
+constexpr std::array<int, kCategories> kLengths = {2, 2, 3,  3,  3,  4,  5,  6, 7,
                                                    8, 9, 10, 11, 12, 13, 14, 15};
 
 std::size_t CategoryOf(int difference)
 {
-    return static_cast<std::size_t>(std::bit_width(static_cast<std::uint32_t>(
-        difference < 0 ? -difference : difference)));
+    return static_cast<std::size_t>(
+        std::bit_width(static_cast<std::uint32_t>(difference < 0 ? -difference : difference)));
 }
 
 // Each sample less its left neighbour, less the upper one where a row begins (T.81 H.1.2.1); in

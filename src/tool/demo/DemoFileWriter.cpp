@@ -99,10 +99,9 @@ QvxStatus DemoFolder::WriteFile(const std::string& name, const DemoDataSet& data
         body = std::move(deflated);
     }
     fDirectory.Add(name, dataSet, syntax);
-    return Write(name,
-                 DemoFileHead(dataSet.ValueOf(kDemoSOPClass), dataSet.ValueOf(kDemoSOPInstance),
-                              syntax) +
-                     body);
+    return Write(name, DemoFileHead(dataSet.ValueOf(kDemoSOPClass),
+                                    dataSet.ValueOf(kDemoSOPInstance), syntax) +
+                           body);
 }
 
 QvxStatus DemoFolder::WriteDirectory()

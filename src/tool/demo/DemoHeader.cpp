@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr std::string_view kUidRoot = "2.25.";
+
 struct PatientRow {
     std::string_view characterSet, name, id, birthDate, sex, age;
     std::string_view studyDate, studyTime, studyDescription, studyId, accession;
@@ -21,16 +23,16 @@ constexpr auto kPatients = std::to_array<PatientRow>({
      "Jitsuen^Hanako=\x1b$B<B1i\x1b(B^\x1b$B2V;R\x1b(B=\x1b$B$8$D$($s\x1b(B^\x1b$B$O$J$3\x1b(B",
      "ZELORA-JA", "19620303", "F", "061Y", "20240116", "090000", "\x1b$B?4B!D62;GH\x1b(B", "DEMO2",
      "ZELORA0002"},
-    // ISO 8859-7: "Dokimi^Eleni" (a test's Eleni); "coronary angiography".
-    {"ISO_IR 126", "\xC4\xEF\xEA\xE9\xEC\xDE^\xC5\xEB\xDD\xED\xE7", "ZELORA-EL", "19550520", "F",
-     "068Y", "20240117", "133000", "\xD3\xF4\xE5\xF6\xE1\xED\xE9\xEF\xE3\xF1\xE1\xF6\xDF\xE1",
-     "DEMO3", "ZELORA0003"},
     // KS X 1001: "Siheom^Gildong" (a trial's Gildong) in Latin letters, hanja and hangul; "spine".
     // Its escape sequence is due again behind each delimiter (PS3.5 6.1.2.5.3).
     {"\\ISO 2022 IR 149",
      "Siheom^Gildong=\x1b$)C\xE3\xCB\xFA\xD0^\x1b$)C\xD1\xCE\xD4\xD7"
      "=\x1b$)C\xBD\xC3\xC7\xE8^\x1b$)C\xB1\xE6\xB5\xBF",
-     "ZELORA-KO", "19811109", "M", "042Y", "20240118", "160000", "\x1b$)C\xC3\xB4\xC3\xDF",
+     "ZELORA-KO", "19811109", "M", "042Y", "20240117", "160000", "\x1b$)C\xC3\xB4\xC3\xDF", "DEMO3",
+     "ZELORA0003"},
+    // ISO 8859-7: "Dokimi^Eleni" (a test's Eleni); "coronary angiography".
+    {"ISO_IR 126", "\xC4\xEF\xEA\xE9\xEC\xDE^\xC5\xEB\xDD\xED\xE7", "ZELORA-EL", "19550520", "F",
+     "068Y", "20240118", "133000", "\xD3\xF4\xE5\xF6\xE1\xED\xE9\xEF\xE3\xF1\xE1\xF6\xDF\xE1",
      "DEMO4", "ZELORA0004"},
 });
 
@@ -53,6 +55,15 @@ std::string Digits(std::string_view words, std::uint64_t seed)
 std::string WordsOf(DemoPatient patient)
 {
     return patient == DemoPatient::Phantom ? "" : "of " + std::to_string(Index(patient)) + ' ';
+}
+
+// Sorted as text, the series of a study follow their numbers: a list without a directory goes by
+// it.
+std::string SeriesUid(const DemoSeries& series)
+{
+    std::string uid = DemoUid(WordsOf(series.patient) + "series " + std::to_string(series.number));
+    uid[kUidRoot.size()] = static_cast<char>('0' + series.number);
+    return uid;
 }
 
 void AddPatientAndStudy(DemoDataSet* dataSet, DemoPatient patient)
@@ -108,7 +119,7 @@ void AddLoss(DemoDataSet* dataSet, const std::vector<std::string>& before,
 
 std::string DemoUid(std::string_view words)
 {
-    return "2.25." + Digits(words, 1) + Digits(words, 2);
+    return std::string(kUidRoot) + Digits(words, 1) + Digits(words, 2);
 }
 
 std::string DemoInstanceUid(const DemoSeries& series, int instance)
@@ -141,8 +152,7 @@ DemoDataSet DemoHeader(const DemoSeries& series, int instance)
     dataSet.Text(0x0008103E, "LO", series.description);
     if (!series.bodyPart.empty())
         dataSet.Text(0x00180015, "CS", series.bodyPart);
-    dataSet.Text(0x0020000E, "UI",
-                 DemoUid(WordsOf(series.patient) + "series " + std::to_string(series.number)));
+    dataSet.Text(0x0020000E, "UI", SeriesUid(series));
     dataSet.Integer(0x00200011, series.number);
     dataSet.Integer(0x00200013, instance);
     return dataSet;

@@ -11,12 +11,13 @@
 
 inline constexpr std::uint32_t kDemoSOPClass = 0x00080016, kDemoSOPInstance = 0x00080018;
 
-// Nobody of them lives or lived. Each has one study, with words in a character set of its own.
-enum class DemoPatient { Phantom, Hanako, Eleni, Gildong };
+// Nobody of them lives or lived. Each has one study, with words in a character set of its own. They
+// stand in the order of their names' bytes, as a list of files without a directory sorts them.
+enum class DemoPatient { Phantom, Hanako, Gildong, Eleni };
 
 struct DemoSeries {
     DemoPatient patient = DemoPatient::Phantom;
-    int number;  // from 1, once in a study; its folder is named after it
+    int number;  // 1 to 9, once in a study; its folder is named after it
     std::string_view modality, sopClass;
     std::string_view description;  // in the patient's character set
     std::string_view bodyPart;

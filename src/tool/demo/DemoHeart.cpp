@@ -159,8 +159,9 @@ void DrawSector(const Beat& beat, const Speckle& speckle, DemoNoise* noise, Pict
             const double depth = std::hypot(x, y), angle = std::atan2(x, y);
             if (depth < 8 || depth > kReach || std::abs(angle) > kHalfAngle)
                 continue;
-            const double inBox = std::min({kBoxHalf - std::abs(angle - kBoxAngle),
-                                           (depth - kBoxTop) / depth, (kBoxBottom - depth) / depth});
+            const double inBox =
+                std::min({kBoxHalf - std::abs(angle - kBoxAngle), (depth - kBoxTop) / depth,
+                          (kBoxBottom - depth) / depth});
             if (std::abs(inBox * depth) < 0.8) {
                 picture->Set(column, row, 190, 190, 190);
                 continue;

@@ -19,12 +19,8 @@ constexpr DemoSeries kSeries = {.number = 5,
 DemoPlane PlaneOf(int instance)
 {
     // Turned to the left and leaning backwards, so that it cuts slices and localizer askew.
-    DemoPlane plane = {.turn = 0.35,
-                       .tilt = 0.28,
-                       .origin = {},
-                       .pixel_mm = 1.5,
-                       .rows = kSize,
-                       .columns = kSize};
+    DemoPlane plane = {
+        .turn = 0.35, .tilt = 0.28, .origin = {}, .pixel_mm = 1.5, .rows = kSize, .columns = kSize};
     plane.CentreAt((instance - (kSlices + 1) / 2.0) * kSpacing_mm);
     return plane;
 }

@@ -14,15 +14,14 @@ namespace {
 constexpr int kSize = 384;
 constexpr double kPixel_mm = 0.6, kFront_mm = -75, kTop_mm = 10;  // of the first pixel: y and z
 // "Lumbar spine, sagittal" in KS X 1001.
-constexpr DemoSeries kSeries = {
-    .patient = DemoPatient::Gildong,
-    .number = 1,
-    .modality = "MR",
-    .sopClass = "1.2.840.10008.5.1.4.1.1.4",
-    .description = "\x1b$)C\xBF\xE4\xC3\xDF \xBD\xC3\xBB\xF3\xB8\xE9",
-    .bodyPart = "LSPINE",
-    .time = "161500",
-    .syntax = DemoSyntax::ExplicitBig};
+constexpr DemoSeries kSeries = {.patient = DemoPatient::Gildong,
+                                .number = 1,
+                                .modality = "MR",
+                                .sopClass = "1.2.840.10008.5.1.4.1.1.4",
+                                .description = "\x1b$)C\xBF\xE4\xC3\xDF \xBD\xC3\xBB\xF3\xB8\xE9",
+                                .bodyPart = "LSPINE",
+                                .time = "161500",
+                                .syntax = DemoSyntax::ExplicitBig};
 
 struct Plane {
     int group, rows, columns;
@@ -36,7 +35,8 @@ constexpr Plane kFinding = {0x6002, 61, 93, 221, 172, "R", "Outline of a finding
 class Bits {
 public:
     explicit Bits(const Plane& plane)
-        : fPlane(plane), fBytes(static_cast<std::size_t>((plane.rows * plane.columns + 15) / 16 * 2), '\0')
+        : fPlane(plane),
+          fBytes(static_cast<std::size_t>((plane.rows * plane.columns + 15) / 16 * 2), '\0')
     {
     }
     void Set(int x, int y)
@@ -63,8 +63,8 @@ std::string Names()
     Bits bits(kNames);
     for (int i = 7; i < 15; ++i) {
         const int row = RowAt(159.5 - 25 * i);
-        const std::string name =
-            i < 12 ? "T" + std::to_string(i + 1) : "L" + std::to_string(i - 11);
+        std::string name(1, i < 12 ? 'T' : 'L');
+        name += std::to_string(i < 12 ? i + 1 : i - 11);
         DemoGlyphs_Draw(name, [&](int x, int y) {
             for (int dot = 0; dot < 4; ++dot)
                 bits.Set(kLeft + 2 * x + dot % 2, row - 7 + 2 * y + dot / 2);
@@ -140,8 +140,8 @@ DemoDataSet Header(const DemoPlane& plane)
 
 QvxStatus WriteDemoOverlays(const DemoPhantom& phantom, DemoFolder* folder)
 {
-    const DemoPlane plane = {std::numbers::pi / 2, 0, {0, kFront_mm, kTop_mm}, kPixel_mm, kSize,
-                             kSize};
+    const DemoPlane plane = {
+        std::numbers::pi / 2, 0, {0, kFront_mm, kTop_mm}, kPixel_mm, kSize, kSize};
     std::vector<float> signal = DemoPlane_Paint(phantom, plane, DemoTissue_MRSignal);
     DemoPlane_AddCoil(plane, 9, &signal);
     DemoDataSet dataSet = Header(plane);

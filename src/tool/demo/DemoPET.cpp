@@ -13,8 +13,7 @@ constexpr int kSlices = 60, kSize = 128, kFine = 2 * kSize;  // painted finer, t
 constexpr double kPixel_mm = 3.6, kSpacing_mm = 5, kTop_mm = 150;
 constexpr double kFirst_mm = -(kSize - 1) * kPixel_mm / 2;
 constexpr float kMost = 32767;
-constexpr DemoPixelForm kForm = {
-    .rows = kSize, .columns = kSize, .stored = 16, .isSigned = true};
+constexpr DemoPixelForm kForm = {.rows = kSize, .columns = kSize, .stored = 16, .isSigned = true};
 constexpr DemoSeries kSeries = {.number = 6,
                                 .modality = "PT",
                                 .sopClass = "1.2.840.10008.5.1.4.1.1.128",
@@ -30,10 +29,10 @@ float ActivityOf(float hu)
     struct Row {
         float below, activity;
     };
-    static constexpr Row kRows[] = {
-        {-900, 0},   {-800, 1500}, {-40, 800},  {7, 4000},   {15, 600},  {25, 3500},
-        {33, 14000}, {37, 5000},   {43, 6500},  {47, 7000},  {53, 2900}, {57, 38000},
-        {70, 9800},  {150, 2500},  {300, 5200}, {2000, 2000}};
+    static constexpr Row kRows[] = {{-900, 0},  {-800, 1500}, {-40, 800},  {7, 4000},
+                                    {15, 600},  {25, 3500},   {33, 14000}, {37, 5000},
+                                    {43, 6500}, {47, 7000},   {53, 2900},  {57, 38000},
+                                    {70, 9800}, {150, 2500},  {300, 5200}, {2000, 2000}};
     for (const Row& row : kRows) {
         if (hu < row.below)
             return row.activity;
@@ -159,9 +158,9 @@ QvxStatus WriteDemoPET(const DemoPhantom& phantom, DemoFolder* folder)
         Image image = Activity(phantom, z, static_cast<std::uint64_t>(instance) << 28);
         const float slope = *std::ranges::max_element(image) / kMost;
         std::ranges::transform(image, image.begin(), [slope](float v) { return v / slope; });
-        if (const QvxStatus status =
-                DemoImage_Write(folder, kSeries, instance, Header(instance, z, static_cast<double>(slope)), kForm,
-                                {DemoStoredValues(image, 0, kMost)}))
+        if (const QvxStatus status = DemoImage_Write(
+                folder, kSeries, instance, Header(instance, z, static_cast<double>(slope)), kForm,
+                {DemoStoredValues(image, 0, kMost)}))
             return status;
     }
     return kQvxOK;

@@ -56,19 +56,19 @@ float DemoTissue_MRSignal(float hu)
         {-1000, 0},  // gas
         {-850, 30},  // lung
         {-100, 620},
-        {-60, 600},   // fat
+        {-60, 600},  // fat
         {-50, 300},
-        {5, 980},     // water, bile, cerebrospinal fluid
-        {20, 420},    // skin, walls
-        {30, 560},    // kidney
-        {40, 330},    // vessels, spinal cord
-        {45, 140},    // flowing blood
-        {50, 230},    // muscle
-        {55, 260},    // heart
-        {60, 290},    // liver
-        {90, 520},    // disc
-        {110, 160},   // cartilage
-        {220, 430},   // marrow
+        {5, 980},    // water, bile, cerebrospinal fluid
+        {20, 420},   // skin, walls
+        {30, 560},   // kidney
+        {40, 330},   // vessels, spinal cord
+        {45, 140},   // flowing blood
+        {50, 230},   // muscle
+        {55, 260},   // heart
+        {60, 290},   // liver
+        {90, 520},   // disc
+        {110, 160},  // cartilage
+        {220, 430},  // marrow
         {350, 120},
         {450, 40},  // cortical bone
     });

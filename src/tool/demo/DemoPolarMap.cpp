@@ -14,15 +14,15 @@ namespace {
 constexpr int kSize = 448, kRadius = 176, kCentre = 208;
 constexpr int kWarmest = 239, kInk = 255;  // 240 to 255 is a scale of gray
 // "Perfusion of the heart's muscle" in ISO 8859-7.
-constexpr DemoSeries kSeries = {
-    .patient = DemoPatient::Eleni,
-    .number = 2,
-    .modality = "NM",
-    .sopClass = "1.2.840.10008.5.1.4.1.1.7",
-    .description = "\xC1\xE9\xEC\xDC\xF4\xF9\xF3\xE7 \xF4\xEF\xF5 "
-                   "\xEC\xF5\xEF\xEA\xE1\xF1\xE4\xDF\xEF\xF5",
-    .bodyPart = "HEART",
-    .time = "150000"};
+constexpr DemoSeries kSeries = {.patient = DemoPatient::Eleni,
+                                .number = 2,
+                                .modality = "NM",
+                                .sopClass = "1.2.840.10008.5.1.4.1.1.7",
+                                .description =
+                                    "\xC1\xE9\xEC\xDC\xF4\xF9\xF3\xE7 \xF4\xEF\xF5 "
+                                    "\xEC\xF5\xEF\xEA\xE1\xF1\xE4\xDF\xEF\xF5",
+                                .bodyPart = "HEART",
+                                .time = "150000"};
 
 // Places between which the palette runs straight, in parts of 65535.
 struct Stop {
@@ -48,8 +48,7 @@ std::string Table(std::size_t colour)
         double value = above->colour[colour];
         if (above->index != i) {
             const Stop& below = *(above - 1);
-            const double part =
-                static_cast<double>(i - below.index) / (above->index - below.index);
+            const double part = static_cast<double>(i - below.index) / (above->index - below.index);
             value = below.colour[colour] + part * (value - below.colour[colour]);
         }
         DemoAppendLE(&bytes, static_cast<std::uint16_t>(std::lround(65535 * value)));
@@ -95,11 +94,10 @@ std::string Pixels()
             const double angle = std::atan2(y - kCentre, x - kCentre);
             if (far > 1.01)
                 continue;
-            const double value = kWarmest * Perfusion(far, angle) +
-                                 2 * static_cast<double>(noise.Normal());
-            set(x, y, IsBorder(far, angle)
-                          ? kInk
-                          : std::clamp(static_cast<int>(value), 1, kWarmest));
+            const double value =
+                kWarmest * Perfusion(far, angle) + 2 * static_cast<double>(noise.Normal());
+            set(x, y,
+                IsBorder(far, angle) ? kInk : std::clamp(static_cast<int>(value), 1, kWarmest));
         }
     }
     for (int y = 0; y < 240; ++y) {

@@ -15,6 +15,6 @@
 // Of the other patients.
 [[nodiscard]] QvxStatus WriteDemoUltrasound(const DemoPhantom& phantom, DemoFolder* folder);
 [[nodiscard]] QvxStatus WriteDemoLateral(const DemoPhantom& phantom, DemoFolder* folder);
+[[nodiscard]] QvxStatus WriteDemoOverlays(const DemoPhantom& phantom, DemoFolder* folder);
 [[nodiscard]] QvxStatus WriteDemoAngiogram(const DemoPhantom& phantom, DemoFolder* folder);
 [[nodiscard]] QvxStatus WriteDemoPolarMap(const DemoPhantom& phantom, DemoFolder* folder);
-[[nodiscard]] QvxStatus WriteDemoOverlays(const DemoPhantom& phantom, DemoFolder* folder);

@@ -11,9 +11,9 @@ QvxStatus WriteAll(DemoFolder* folder)
     const DemoPhantom phantom;
     // By patient and series, as the directory wants it.
     static constexpr QvxStatus (*kSeries[])(const DemoPhantom&, DemoFolder*) = {
-        WriteDemoLocalizer, WriteDemoCT,        WriteDemoRadiograph, WriteDemoChart,
-        WriteDemoObliqueMR, WriteDemoPET,       WriteDemoEnhancedMR, WriteDemoUltrasound,
-        WriteDemoLateral,   WriteDemoAngiogram, WriteDemoPolarMap,   WriteDemoOverlays,
+        WriteDemoLocalizer, WriteDemoCT,       WriteDemoRadiograph, WriteDemoChart,
+        WriteDemoObliqueMR, WriteDemoPET,      WriteDemoEnhancedMR, WriteDemoUltrasound,
+        WriteDemoLateral,   WriteDemoOverlays, WriteDemoAngiogram,  WriteDemoPolarMap,
     };
     if (const QvxStatus status = folder->MakeFolder(""))
         return status;

@@ -1,9 +1,9 @@
 // `zelora demo FOLDER`: studies made by arithmetic, to have something to look at without a patient.
-// Four made-up patients, their names in Latin, Japanese, Greek and Korean letters, and twelve series
-// in nine transfer syntaxes. One phantom is seen by CT with its localizer, MR (a classic oblique
-// series and an enhanced one), PET and X-rays, in one coordinate system where that has a meaning;
-// beside them stand an ultrasound clip, an angiogram, a polar map, a spine with overlays and a
-// colour chart. Files lie in PATn/STn/SEn/IMnnnnnn, with a DICOMDIR over all of them.
+// Four made-up patients, their names in Latin, Japanese, Greek and Korean letters, and twelve
+// series in nine transfer syntaxes. One phantom is seen by CT with its localizer, MR (a classic
+// oblique series and an enhanced one), PET and X-rays, in one coordinate system where that has a
+// meaning; beside them stand an ultrasound clip, an angiogram, a polar map, a spine with overlays
+// and a colour chart. Files lie in PATn/STn/SEn/IMnnnnnn, with a DICOMDIR over all of them.
 #pragma once
 #include "util/StatusCodes.h"
 

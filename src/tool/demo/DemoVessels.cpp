@@ -52,7 +52,9 @@ Place CurveAt(const std::vector<Place>& course, double along)
     const int last = static_cast<int>(course.size()) - 1;
     const int i = std::clamp(static_cast<int>(along), 0, last - 1);
     const double t = along - i;
-    const auto point = [&](int k) { return course[static_cast<std::size_t>(std::clamp(k, 0, last))]; };
+    const auto point = [&](int k) {
+        return course[static_cast<std::size_t>(std::clamp(k, 0, last))];
+    };
     const auto mix = [t](double a, double b, double c, double d) {
         return b + t / 2 * (c - a + t * (2 * a - 5 * b + 4 * c - d + t * (3 * (b - c) + d - a)));
     };
@@ -96,13 +98,14 @@ private:
     {
         fSide = -fSide;
         const double length = 46 + 50 * fNoise.Uniform();
-        double angle = std::atan2(direction.y, direction.x) + fSide * (0.6 + 0.4 * fNoise.Uniform());
+        double angle =
+            std::atan2(direction.y, direction.x) + fSide * (0.6 + 0.4 * fNoise.Uniform());
         std::vector<Place> course = {from};
         for (int i = 0; i < 4; ++i) {
             angle += -0.22 * fSide + 0.5 * (fNoise.Uniform() - 0.5);
             const Place last = course.back();
-            course.push_back({last.x + length / 4 * std::cos(angle),
-                              last.y + length / 4 * std::sin(angle)});
+            course.push_back(
+                {last.x + length / 4 * std::cos(angle), last.y + length / 4 * std::sin(angle)});
         }
         Draw({course, radius * 0.62, 0.7, distance, std::min(children, 2)});
     }
@@ -121,8 +124,8 @@ DemoVessels DemoVessels_Make()
     Tree tree(&vessels);
     // The main stem, then the branch in front and the one around the heart.
     tree.Draw({{{150, 128}, {172, 134}, {196, 142}}, 7, 6.4, 0, 0});
-    tree.Draw({{{196, 142}, {250, 150}, {312, 190}, {362, 258}, {398, 338}, {404, 412}},
-               6, 1.6, 48, 5});
+    tree.Draw(
+        {{{196, 142}, {250, 150}, {312, 190}, {362, 258}, {398, 338}, {404, 412}}, 6, 1.6, 48, 5});
     tree.Draw({{{196, 142}, {214, 190}, {226, 250}, {262, 318}, {306, 366}}, 5, 1.4, 48, 4});
 
     const std::vector<Place> tube = {{60, 511}, {52, 400}, {62, 250}, {86, 120},
