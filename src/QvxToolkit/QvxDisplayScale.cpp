@@ -21,26 +21,55 @@ Range StorableRange(const QvxFrameRecord& record)
     return record.fSigned ? Range{-span / 2, span / 2 - 1} : Range{0, span - 1};
 }
 
-QvxQuantum QuantumOf(SampleView<double> samples)
-{
-    double low = 0, high = 0;
-    bool any = false, whole = true;
-    for (std::size_t i = 0; i < samples.fCount; ++i) {
-        const double value = samples[i];
-        if (!std::isfinite(value))
-            continue;
-        low = any ? std::min(low, value) : value;
-        high = any ? std::max(high, value) : value;
-        any = true;
-        whole = whole && value == std::floor(value);
+// The values of a frame that are image, be they all or none.
+template <typename T>
+class ImageValues {
+public:
+    ImageValues(const QvxFrameRecord& record, SampleView<T> samples, bool withPadding)
+    {
+        for (std::size_t i = 0; i < samples.fCount; ++i) {
+            const auto value = static_cast<double>(samples[i]);
+            const bool padding = record.fHasPadding && value >= record.fPaddingLow &&
+                                 value <= record.fPaddingHigh;
+            if (!std::isfinite(value) || (padding && !withPadding))
+                continue;
+            fLow = fAny ? std::min(fLow, value) : value;
+            fHigh = fAny ? std::max(fHigh, value) : value;
+            fAny = true;
+            fWhole = fWhole && value == std::floor(value);
+        }
     }
+    bool fAny = false, fWhole = true;
+    double fLow = 0, fHigh = 0;
+};
+
+template <typename T>
+ImageValues<T> ValuesOf(const QvxFrameRecord& record, SampleView<T> samples)
+{
+    const ImageValues<T> image(record, samples, false);
+    return image.fAny ? image : ImageValues<T>(record, samples, true);
+}
+
+QvxQuantum QuantumOf(const QvxFrameRecord& record, SampleView<double> samples)
+{
+    const auto values = ValuesOf(record, samples);
+    const double low = values.fLow, high = values.fHigh;
     // Divided before subtracted: the span of two doubles may be infinite.
     const double step = high / kGray16Maximum - low / kGray16Maximum;
-    if (!any || !(step > 0))
+    if (!values.fAny || !(step > 0))
         return {low, 1, 0};
-    if (whole && high - low <= kGray16Maximum)
+    if (values.fWhole && high - low <= kGray16Maximum)
         return {low, 1, static_cast<std::int64_t>(high - low)};
     return {low, step, kGray16Maximum};
+}
+
+Range RangeOf(const QvxFrameRecord& record, const DecodedFrame& frame)
+{
+    return VisitSamples(frame, [&](auto samples) {
+        const auto values = ValuesOf(record, samples);
+        return Range{static_cast<std::int64_t>(values.fLow),
+                     static_cast<std::int64_t>(values.fHigh)};
+    });
 }
 
 // Splits `position` (what display 0 means, in factors) and the intercept into shift and offset.
@@ -93,20 +122,19 @@ QvxDisplayScale QvxMakeDisplayScale(const QvxFrameRecord& record, const DecodedF
     if (record.fForm != QvxSampleForm::Integer) {
         QvxQuantum quantum{0, 1, kGray16Maximum};
         if (frame && frame->fForm == DecodedForm::Float64)
-            quantum = QuantumOf({frame->fBytes.data(), frame->Count()});
+            quantum = QuantumOf(record, {frame->fBytes.data(), frame->Count()});
         scale = ScaleOf({0, quantum.fMost}, record.fSlope * quantum.fStep,
                         record.fIntercept + record.fSlope * quantum.fLow);
         scale.fQuantum = quantum;
+    } else if (record.fModality) {
+        scale = ScaleOf({0, record.fModality->Greatest()}, 1, 0);
+        scale.fTable = record.fModality.get();
     } else {
-        Range range = StorableRange(record);
-        if (frame && QvxCodecScaleIsPerFrame(record)) {
-            const DecodedStats stats = StatsOf(*frame);
-            range = {static_cast<std::int64_t>(stats.fMinimum),
-                     static_cast<std::int64_t>(stats.fMaximum)};
-        }
-        scale = ScaleOf(range, record.fSlope, record.fIntercept);
+        const bool own = frame && QvxCodecScaleIsPerFrame(record);
+        scale = ScaleOf(own ? RangeOf(record, *frame) : StorableRange(record), record.fSlope,
+                        record.fIntercept);
     }
-    if (record.fPhotometric == QvxPhotometric::Monochrome1)
+    if (record.fInverted)
         Invert(&scale);
     return scale;
 }

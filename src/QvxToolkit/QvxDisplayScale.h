@@ -16,6 +16,7 @@ struct QvxDisplayScale {
     std::int64_t fBase = 0, fTimes = 1;
     std::int32_t fMaximum = 0;
     QvxQuantum fQuantum;  // of float pixels: `stored` is the quantum then
+    const QvxLookupTable* fTable = nullptr;  // the record's; its entry is `stored` then
 };
 
 inline constexpr std::int32_t kGray16Maximum = 65535;

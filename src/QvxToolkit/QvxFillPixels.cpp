@@ -86,6 +86,10 @@ void GrayRows<T>::Convert(std::size_t first, std::size_t count, std::uint16_t* r
             row[i] =
                 static_cast<std::uint16_t>(fScale.fBase + fScale.fTimes * std::llround(inside));
         }
+    } else if (fScale.fTable) {
+        for (std::size_t i = 0; i < count; ++i)
+            row[i] = static_cast<std::uint16_t>(
+                fScale.fBase + fScale.fTimes * fScale.fTable->Of(std::int64_t{fSamples[first + i]}));
     } else if (sizeof(T) <= 2 && fScale.fDrop == 0 && !fRecord.fEncapsulated) {
         // All sums are right in 16 bits, since the display value fits them.
         const auto base = static_cast<std::uint16_t>(fScale.fBase);
@@ -107,10 +111,13 @@ void GrayRows<T>::Convert(std::size_t first, std::size_t count, std::uint16_t* r
 template <typename T>
 std::size_t GrayRows<T>::DropPadding(std::size_t first, std::size_t count, std::uint16_t* row) const
 {
+    using Value = std::conditional_t<std::is_same_v<T, double>, double, std::int64_t>;
+    const auto low = static_cast<Value>(fRecord.fPaddingLow);
+    const auto high = static_cast<Value>(fRecord.fPaddingHigh);
     std::size_t kept = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        const auto stored = static_cast<std::int64_t>(fSamples[first + i]);
-        if (stored < fRecord.fPaddingLow || stored > fRecord.fPaddingHigh)
+        const auto stored = static_cast<Value>(fSamples[first + i]);
+        if (stored < low || stored > high)
             row[kept++] = row[i];
     }
     return kept;

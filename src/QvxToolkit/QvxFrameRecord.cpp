@@ -9,6 +9,7 @@
 #include "QvxToolkit/QvxVideo.h"
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <new>
 #include <string_view>
 
@@ -26,6 +27,11 @@ constexpr QvxElementTag kTagHighBit{0x0028, 0x0102};
 constexpr QvxElementTag kTagPixelRepresentation{0x0028, 0x0103};
 constexpr QvxElementTag kTagPadding{0x0028, 0x0120};
 constexpr QvxElementTag kTagPaddingLimit{0x0028, 0x0121};
+constexpr QvxElementTag kTagFloatPadding{0x0028, 0x0122};
+constexpr QvxElementTag kTagDoublePadding{0x0028, 0x0123};
+constexpr QvxElementTag kTagFloatPaddingLimit{0x0028, 0x0124};
+constexpr QvxElementTag kTagDoublePaddingLimit{0x0028, 0x0125};
+constexpr QvxElementTag kTagPresentationShape{0x2050, 0x0020};
 
 struct PhotometricRow {
     std::string_view fName;
@@ -76,6 +82,8 @@ private:
     void ReadBits();
     QvxStatus ReadColor();
     std::uint32_t SamplesThatFit(std::uint32_t stated, std::uint32_t named) const;
+    void ReadPolarity();
+    [[nodiscard]] double PaddingAsStored(double number) const;
     void ReadPadding();
 
     QvxParserRec* fReader;
@@ -185,22 +193,44 @@ QvxStatus FrameGate::ReadColor()
     return kQvxOK;
 }
 
-// Written as the stored values are, but often under the other VR: by the width of a word.
+// What there is one of for the whole image: a shape that is stated decides, or an image stated
+// twice to be negative would be turned twice.
+void FrameGate::ReadPolarity()
+{
+    if (!fRecord.IsGray() || fRecord.fPhotometric == QvxPhotometric::Palette)
+        return;
+    const std::string shape = QvxHeaderWord(fReader, kTagPresentationShape);
+    fRecord.fInverted = shape == "INVERSE" || (fRecord.fPhotometric == QvxPhotometric::Monochrome1 &&
+                                               shape != "IDENTITY");
+}
+
+// Integers are written as the stored values are, but often under the other VR: by the width of a
+// word.
+double FrameGate::PaddingAsStored(double number) const
+{
+    if (fRecord.fForm != QvxSampleForm::Integer)
+        return number;
+    const double whole = std::trunc(number);
+    const bool wrapped = fRecord.fSigned && whole > 32767 && fRecord.fBitsAllocated <= 16;
+    const bool unsignedWord = !fRecord.fSigned && whole < 0;
+    return wrapped ? whole - 65536 : unsignedWord ? whole + 65536 : whole;
+}
+
 void FrameGate::ReadPadding()
 {
-    if (!fRecord.IsGray() || fRecord.fForm != QvxSampleForm::Integer)
+    if (!fRecord.IsGray())
         return;
-    const auto value = QvxHeaderNumber(fReader, QvxElementRef::None, kTagPadding);
+    const bool wide = fRecord.fForm == QvxSampleForm::Float64;
+    QvxElementTag tag = kTagPadding, limitTag = kTagPaddingLimit;
+    if (fRecord.fForm != QvxSampleForm::Integer) {
+        tag = wide ? kTagDoublePadding : kTagFloatPadding;
+        limitTag = wide ? kTagDoublePaddingLimit : kTagFloatPaddingLimit;
+    }
+    const auto value = QvxHeaderNumber(fReader, QvxElementRef::None, tag);
     if (!value)
         return;
-    const auto limit = QvxHeaderNumber(fReader, QvxElementRef::None, kTagPaddingLimit);
-    const auto asStored = [this](double number) {
-        const auto whole = static_cast<std::int64_t>(number);
-        const bool wrapped = fRecord.fSigned && whole > 32767 && fRecord.fBitsAllocated <= 16;
-        const bool unsignedWord = !fRecord.fSigned && whole < 0;
-        return wrapped ? whole - 65536 : unsignedWord ? whole + 65536 : whole;
-    };
-    const std::int64_t first = asStored(*value), last = limit ? asStored(*limit) : first;
+    const auto limit = QvxHeaderNumber(fReader, QvxElementRef::None, limitTag);
+    const double first = PaddingAsStored(*value), last = limit ? PaddingAsStored(*limit) : first;
     fRecord.fHasPadding = true;
     fRecord.fPaddingLow = std::min(first, last);
     fRecord.fPaddingHigh = std::max(first, last);
@@ -224,6 +254,7 @@ QvxStatus FrameGate::Run()
                                         : QvxPlaceFrames(fRun, &fRecord, &fWhy))
         return status;
     QvxReadRescale(fReader, &fRecord);
+    ReadPolarity();
     ReadPadding();
     return kQvxOK;
 }

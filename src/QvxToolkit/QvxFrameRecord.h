@@ -12,11 +12,15 @@
 //   (0028,0004) 4:2:2, yet the bytes are those of full colour: full colour
 //   (0028,0008) missing        as many frames as (7FE0,0010) is long for; a clip's are counted
 //   (0028,1053) absent, 0 or absurd   1; (0028,1052) absent or absurd   0
+//   (0028,3000) without entries, or of other than 8 to 16 bits   none, with a line in the log
 // Several values where one is due: the first counts.
 #pragma once
 #include "Qvx2Parser/Qvx2Reader.h"
+#include "QvxToolkit/QvxLookupTable.h"
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <vector>
 
 enum class QvxPhotometric : std::uint8_t {
     Monochrome1,
@@ -33,6 +37,13 @@ enum class QvxPhotometric : std::uint8_t {
 
 // Stored values as they lie in the file.
 enum class QvxSampleForm : std::uint8_t { Integer, Float32, Float64 };
+
+// Where an enhanced image says what is true of its frames, PS3.3 C.7.6.16. Items of the reader
+// that the record was made from.
+struct QvxFrameGroups {
+    QvxElementRef fShared{};              // None when there is none
+    std::vector<QvxElementRef> fOfFrame;  // in the order of the frames; may be fewer
+};
 
 struct QvxFrameRecord {
     std::uint32_t fRows = 0, fColumns = 0;  // 1 to 65535
@@ -58,10 +69,18 @@ struct QvxFrameRecord {
                                        // clip: of the first item
     std::uint64_t fPixelBytes = 0;     // native: bytes from there on that are pixels
 
-    double fSlope = 1, fIntercept = 0;  // (0028,1053), (0028,1052), also of enhanced images
-    bool fHasPadding = false;           // integer gray with (0028,0120)
-    std::int64_t fPaddingLow = 0,
-                 fPaddingHigh = 0;  // stored values that are no image, both included
+    // From stored to user values. Of an enhanced image: those of its first frame, see
+    // QvxRecordOfFrame.
+    double fSlope = 1, fIntercept = 0;  // (0028,1053), (0028,1052)
+    std::shared_ptr<const QvxLookupTable> fModality;  // (0028,3000), in place of both; or null
+    bool fFramesDiffer = false;                       // in slope or intercept
+    std::shared_ptr<const QvxFrameGroups> fGroups;    // null when there are none
+
+    // Gray, low values white: MONOCHROME1, unless (2050,0020) says otherwise. Its INVERSE is that
+    // one inversion, never a second one; its IDENTITY means values that need none (PS3.3 C.11.6).
+    bool fInverted = false;
+    bool fHasPadding = false;  // gray with (0028,0120), or (0028,0122), (0028,0123) of floats
+    double fPaddingLow = 0, fPaddingHigh = 0;  // stored values that are no image, both included
 
     [[nodiscard]] bool IsGray() const { return fSamples == 1; }
     [[nodiscard]] std::uint64_t Pixels() const { return std::uint64_t{fRows} * fColumns; }
@@ -77,3 +96,10 @@ inline constexpr std::uint64_t kLeastPartOfCutFrame = 8;
 // reason with the tag on failure; may be null.
 [[nodiscard]] QvxStatus QvxMakeFrameRecord(QvxParserRec* reader, QvxFrameRecord* record,
                                            std::string* why = nullptr);
+
+// The record of frame `frameNumber` (from 1): `record` with the slope and intercept of that frame.
+// In this order: the frame's own functional groups, the shared ones, the top level (PS3.3
+// C.7.6.16.2.9). A look into one item, and none at all where frames don't differ; `reader` is the
+// one that the record was made from. kQvxBadArgument for frame 0 or something missing.
+[[nodiscard]] QvxStatus QvxRecordOfFrame(QvxParserRec* reader, const QvxFrameRecord& record,
+                                         std::uint32_t frameNumber, QvxFrameRecord* frameRecord);

@@ -93,11 +93,10 @@ std::optional<std::uint32_t> QvxHeaderCount(QvxParserRec* reader, QvxElementTag 
     return static_cast<std::uint32_t>(*number);
 }
 
-std::string QvxHeaderWord(QvxParserRec* reader, QvxElementTag tag)
+std::string QvxHeaderWord(QvxParserRec* reader, QvxElementTag tag, QvxElementRef parent)
 {
     QvxHandle text;
-    if (ParserGetElementDataAsText(reader, QvxElementRef::None, tag.group, tag.element, 1, &text) !=
-        kQvxOK)
+    if (ParserGetElementDataAsText(reader, parent, tag.group, tag.element, 1, &text) != kQvxOK)
         return {};
     std::string word(text.Text());
     while (!word.empty() && (word.back() == ' ' || word.back() == '\0'))
@@ -113,11 +112,11 @@ std::string QvxHeaderWord(QvxParserRec* reader, QvxElementTag tag)
 // From the file: what the reader keeps of a value follows the dictionary's count, and tables that
 // call themselves US are longer.
 std::vector<std::uint16_t> QvxHeaderWords(QvxParserRec* reader, QvxElementTag tag,
-                                          std::uint32_t byteOrder)
+                                          std::uint32_t byteOrder, QvxElementRef parent)
 {
     QvxElementRef element{};
     QvxElementDataInfo info;
-    if (Qvx2Reader_FindElement(reader, QvxElementRef::None, tag, &element) != kQvxOK ||
+    if (Qvx2Reader_FindElement(reader, parent, tag, &element) != kQvxOK ||
         Qvx2Reader_GetElementDataInfo(reader, element, &info) != kQvxOK)
         return {};
     const ExtraHeaderDataRec* state = Qvx2Reader_State(reader);

@@ -15,10 +15,12 @@
 [[nodiscard]] std::optional<std::uint32_t> QvxHeaderCount(QvxParserRec* reader, QvxElementTag tag,
                                                           std::uint32_t maximum = UINT32_MAX);
 // First value without padding, in capitals; empty when it is missing.
-[[nodiscard]] std::string QvxHeaderWord(QvxParserRec* reader, QvxElementTag tag);
+[[nodiscard]] std::string QvxHeaderWord(QvxParserRec* reader, QvxElementTag tag,
+                                        QvxElementRef parent = QvxElementRef::None);
 // Words of 16 bits in host order, however many; empty when the element is missing.
 [[nodiscard]] std::vector<std::uint16_t> QvxHeaderWords(QvxParserRec* reader, QvxElementTag tag,
-                                                        std::uint32_t byteOrder);
+                                                        std::uint32_t byteOrder,
+                                                        QvxElementRef parent = QvxElementRef::None);
 // Item number `index` (from 0) of sequence `tag` below `parent`; None when there is none.
 [[nodiscard]] QvxElementRef QvxHeaderItem(QvxParserRec* reader, QvxElementRef parent,
                                           QvxElementTag tag, std::size_t index = 0);

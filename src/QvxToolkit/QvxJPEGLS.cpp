@@ -5,7 +5,8 @@
 
 namespace {
 
-constexpr std::uint8_t kMarker = 0xFF, kStartOfFrame = 0xF7, kStartOfScan = 0xDA;
+constexpr std::uint8_t kMarker = 0xFF, kStartOfFrame = 0xF7, kStartOfScan = 0xDA,
+                       kEndOfImage = 0xD9;
 
 struct LSHeader {
     QvxStreamFacts fFacts;
@@ -40,6 +41,19 @@ bool ReadHeader(std::span<const std::uint8_t> bytes, LSHeader* header)
         at += 2 + length;
     }
     return false;
+}
+
+// The library runs on for minutes behind the end of a stream that breaks off; in front of the
+// marker of an image's end it stops.
+std::span<const std::uint8_t> WithEnd(std::span<const std::uint8_t> stream, QvxBytes* closed)
+{
+    const std::size_t size = stream.size();
+    if (size >= 2 && stream[size - 2] == kMarker && stream[size - 1] == kEndOfImage)
+        return stream;
+    closed->reserve(size + 2);
+    closed->assign(stream.begin(), stream.end());
+    closed->insert(closed->end(), {kMarker, kEndOfImage});
+    return *closed;
 }
 
 // What came before a fault is in `samples`, which the library fills from the top.
@@ -86,7 +100,8 @@ QvxStatus QvxDecodeJPEGLS(const QvxFrameRecord& record, const QvxStream& stream,
     QvxBytes samples =
         QvxTakeBlock(frame, record.Pixels() * facts.fSamples * QvxSampleBytes(facts.fPrecision));
     std::string fault;
-    const bool whole = Decode(stream.Bytes(), &samples, &fault);
+    QvxBytes closed;
+    const bool whole = Decode(WithEnd(stream.Bytes(), &closed), &samples, &fault);
     bool any = whole;
     for (std::size_t i = 0; i < samples.size() && !any; ++i)
         any = samples[i] != 0;

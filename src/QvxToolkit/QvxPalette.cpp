@@ -1,28 +1,15 @@
 #include "QvxToolkit/QvxPalette.h"
 
-#include "QvxToolkit/QvxHeaderValue.h"
+#include "QvxToolkit/QvxTables.h"
 #include <algorithm>
 
 namespace {
 
-constexpr std::size_t kMostEntries = 65536;
 using Words = std::vector<std::uint16_t>;
 
 QvxElementTag TagOf(std::uint16_t element, std::size_t color)
 {
     return {0x0028, static_cast<std::uint16_t>(element + color)};
-}
-
-// Two entries of 8 bits in each word, the first one low.
-Words SplitBytes(const Words& words)
-{
-    Words bytes;
-    bytes.reserve(words.size() * 2);
-    for (const std::uint16_t word : words) {
-        bytes.push_back(word & 0xFF);
-        bytes.push_back(word >> 8);
-    }
-    return bytes;
 }
 
 // Expands segments: 0 is a run of entries, 1 a line to an entry, 2 earlier segments once more.
@@ -32,10 +19,10 @@ public:
     Words Expand()
     {
         std::size_t at = 0;
-        while (at < fData.size() && fEntries.size() < kMostEntries && Segment(&at, true)) {
+        while (at < fData.size() && fEntries.size() < kMostTableEntries && Segment(&at, true)) {
         }
-        if (fEntries.size() > kMostEntries)
-            fEntries.resize(kMostEntries);
+        if (fEntries.size() > kMostTableEntries)
+            fEntries.resize(kMostTableEntries);
         return std::move(fEntries);
     }
 
@@ -92,7 +79,7 @@ bool SegmentReader::Line(std::size_t count, std::uint16_t end)
 
 bool SegmentReader::Again(std::size_t segments, std::size_t at)
 {
-    for (std::size_t i = 0; i < segments && fEntries.size() < kMostEntries; ++i) {
+    for (std::size_t i = 0; i < segments && fEntries.size() < kMostTableEntries; ++i) {
         if (at >= fData.size() || !Segment(&at, false))
             return false;
     }
@@ -112,15 +99,15 @@ Table ReadTable(QvxParserRec* reader, const QvxFrameRecord& record, std::size_t 
     Table table;
     const std::uint16_t first = descriptor[1];
     table.fFirst = record.fSigned ? static_cast<std::int16_t>(first) : std::int64_t{first};
-    const std::size_t count = descriptor[0] == 0 ? kMostEntries : descriptor[0];
+    const std::size_t count = descriptor[0] == 0 ? kMostTableEntries : descriptor[0];
     Words data = QvxHeaderWords(reader, TagOf(0x1201, color), record.fByteOrder);
     const bool bytes = descriptor[2] <= 8 && data.size() < count;
     if (data.empty()) {
         const Words segments = QvxHeaderWords(reader, TagOf(0x1221, color), record.fByteOrder);
         const bool byteSegments = descriptor[2] <= 8;
-        data = SegmentReader(byteSegments ? SplitBytes(segments) : segments, byteSegments).Expand();
+        data = SegmentReader(byteSegments ? QvxSplitWords(segments) : segments, byteSegments).Expand();
     } else if (bytes) {
-        data = SplitBytes(data);
+        data = QvxSplitWords(data);
     }
     data.resize(std::min(data.size(), count));
     table.fEntries = std::move(data);

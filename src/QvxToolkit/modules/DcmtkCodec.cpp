@@ -1,10 +1,10 @@
 // The module "dcmtk": see QvxJPEGModule.h.
-#include "dcmtk/config/osconfig.h"
-#include "dcmtk/dcmjpeg/djcparam.h"
-#include "dcmtk/dcmjpeg/djdijg12.h"
-#include "dcmtk/dcmjpeg/djdijg16.h"
-#include "dcmtk/dcmjpeg/djdijg8.h"
-#include "dcmtk/oflog/oflog.h"
+#include <dcmtk/config/osconfig.h>
+#include <dcmtk/dcmjpeg/djcparam.h>
+#include <dcmtk/dcmjpeg/djdijg12.h>
+#include <dcmtk/dcmjpeg/djdijg16.h>
+#include <dcmtk/dcmjpeg/djdijg8.h>
+#include <dcmtk/oflog/oflog.h>
 
 #include "QvxToolkit/QvxJPEGModule.h"
 #include <cstdio>

@@ -1,7 +1,7 @@
 // The module's functions: see QvxVideoModule.h.
-#include "VideoLearner.h"
-#include "VideoPixels.h"
-#include "VideoRevisit.h"
+#include "QvxToolkit/modules/VideoLearner.h"
+#include "QvxToolkit/modules/VideoPixels.h"
+#include "QvxToolkit/modules/VideoRevisit.h"
 
 #include <new>
 

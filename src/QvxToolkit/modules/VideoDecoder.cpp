@@ -1,4 +1,4 @@
-#include "VideoDecoder.h"
+#include "QvxToolkit/modules/VideoDecoder.h"
 
 namespace {
 

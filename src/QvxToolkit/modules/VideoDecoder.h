@@ -1,7 +1,7 @@
 // From coded pictures to shown ones. A packet's number, given as its time, comes back with its
 // picture. Internal.
 #pragma once
-#include "VideoParts.h"
+#include "QvxToolkit/modules/VideoParts.h"
 
 class VideoDecoder {
 public:

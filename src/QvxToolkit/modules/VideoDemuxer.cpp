@@ -1,4 +1,4 @@
-#include "VideoDemuxer.h"
+#include "QvxToolkit/modules/VideoDemuxer.h"
 
 #include <algorithm>
 #include <cstring>

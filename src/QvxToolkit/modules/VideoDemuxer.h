@@ -2,7 +2,7 @@
 // is known by its first bytes: FFmpeg's own probing, its other formats and its protocols are out of
 // reach. Internal.
 #pragma once
-#include "VideoParts.h"
+#include "QvxToolkit/modules/VideoParts.h"
 
 // Reads of a stream, of which there is an allowance: a hostile stream sends no one round and round.
 class VideoBytes {

@@ -1,6 +1,6 @@
-#include "VideoLearner.h"
+#include "QvxToolkit/modules/VideoLearner.h"
 
-#include "VideoPixels.h"
+#include "QvxToolkit/modules/VideoPixels.h"
 
 QvxVideoResult VideoLearner::Open()
 {

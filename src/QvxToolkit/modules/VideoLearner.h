@@ -1,8 +1,8 @@
 // The one decode of a stream from its beginning, picture by picture, and the index that it leaves.
 // Internal.
 #pragma once
-#include "VideoDecoder.h"
-#include "VideoDemuxer.h"
+#include "QvxToolkit/modules/VideoDecoder.h"
+#include "QvxToolkit/modules/VideoDemuxer.h"
 
 #include <optional>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "VideoPixels.h"
+#include "QvxToolkit/modules/VideoPixels.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,6 @@
 // Decoded pictures as samples of a frame: RGB or gray. Internal.
 #pragma once
-#include "VideoParts.h"
+#include "QvxToolkit/modules/VideoParts.h"
 
 #include <cstdint>
 #include <vector>

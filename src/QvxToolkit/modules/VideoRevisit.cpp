@@ -1,6 +1,6 @@
-#include "VideoRevisit.h"
+#include "QvxToolkit/modules/VideoRevisit.h"
 
-#include "VideoPixels.h"
+#include "QvxToolkit/modules/VideoPixels.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 // else it is sought from one key picture earlier, and at last from the beginning, where the count
 // of pictures decides. Pictures behind the last one that was found need no key picture. Internal.
 #pragma once
-#include "VideoLearner.h"
+#include "QvxToolkit/modules/VideoLearner.h"
 
 class VideoRevisit {
 public:

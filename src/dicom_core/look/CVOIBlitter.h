@@ -24,6 +24,11 @@ public:
     [[nodiscard]] QvxStatus DisplayToUser(const zel_TransformRec& record, std::int32_t display,
                                           float* user) const;
 
+    // The four that follow: a linear window goes through the library's kernels, at any whole level.
+    // A table or another function (PS3.3 C.11.2.1) is a curve over user values; the pixel range
+    // cuts that of LINEAR_EXACT and plays no part for tables and SIGMOID. Without a pixel range a
+    // linear window of a scale with a factor, or of a fractional level, is such a curve too.
+
     // Windows `sourceRect` into `destinationRect` with the record's width, rounded half away from
     // zero, and level. The second form cuts the window to the pixel range, both display values,
     // kQvxBadArgument if the maximum is below the minimum. Formats and further codes as of
@@ -89,3 +94,8 @@ struct zelDisplayVOILimits {
 // The record's current window, its width truncated. The same codes.
 [[nodiscard]] QvxStatus U_GetDisplayVOIParams(const zel_TransformRec& record, std::uint32_t* width,
                                               std::int32_t* level);
+// Records a display width and level as the user's window. With `enhance` they are narrowed to the
+// pixel range first (EnhanceVOIValues, its codes). The further codes are those of DisplayToUser.
+[[nodiscard]] QvxStatus U_SetDisplayVOIParams(zel_TransformRec* record, std::int32_t pixelMinimum,
+                                              std::int32_t pixelMaximum, std::uint32_t width,
+                                              std::int32_t level, bool enhance);

@@ -12,6 +12,8 @@ struct zelWindowFacts {
     zelDisplayVOILimits codecLimits;  // used only with a default
     bool hasDefault = false;          // the image states a window (PS3.3 C.11.2.1.2)
     float defaultWidth = 0, defaultLevel = 0;
+    zelVOIFunction function = zelVOIFunction::Linear;  // stated for windows, also without a default
+    std::shared_ptr<const zelVOITable> defaultTable;   // of which the default is the span; or null
 };
 
 // What came out, in display values. What it means for the user is in the record.
@@ -33,7 +35,7 @@ struct zelWindowSetup {
 
 // Sets the originals: the default unless both its numbers are exactly 0 (a NaN isn't), else the
 // greatest width and the middle of the levels, rounded half away from zero to a display step. A
-// current window that stood at the old originals follows.
+// current window that stood at the old originals follows. The function becomes that of the facts.
 void WindowSetup_RecordOriginals(const zelWindowFacts& facts, zel_TransformRec* record);
 
 // All three for one frame on its own. On failure neither result is touched.

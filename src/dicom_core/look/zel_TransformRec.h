@@ -3,10 +3,12 @@
 // Rotation comes before the flips: these act on the turned frame.
 #pragma once
 #include "dicom_core/look/zelVOIBlitterInfo.h"
+#include "dicom_core/look/zelVOIFunction.h"
 #include "util/StatusCodes.h"
 #include "util/XRect.h"
 
 #include <cstdint>
+#include <memory>
 
 inline constexpr std::int32_t kZoomOne = 0x10000;  // 16.16
 
@@ -24,13 +26,17 @@ struct zel_TransformRec {
     bool autoFit = true;  // fitted to the cell, whatever `zoom` says
     CGPoint reserved;     // no logic reads it
     CGPoint scroll;       // pan within the cell
+    // No part of stored records.
+    zelVOIFunction voiFunction = zelVOIFunction::Linear;  // the file's, for every window
+    std::shared_ptr<const zelVOITable> voiTable;          // shown in place of the window; or null
+    std::shared_ptr<const zelVOITable> voiTableOriginal;  // belongs to the original window
 
     bool operator==(const zel_TransformRec&) const = default;
 
     void ResetAll();
     void ResetCommon();    // flips, negative, rotation, zoom
     void ResetBnC();       // brightness, contrast
-    void ResetVOI();       // the eight window values to 0
+    void ResetVOI();       // the eight window values to 0, no tables, linear
     void ResetFlipNRot();  // flips, rotation
     void ResetColors();    // window back to its originals, brightness, contrast, negative
     void SetToVoid();      // ResetCommon and ResetColors; fit, pan and `voiInfo` stay
@@ -39,8 +45,15 @@ struct zel_TransformRec {
 
     // Each value is pinned to its limits: the minimum if that is greater, else the smaller of value
     // and maximum. A NaN becomes the maximum, so none is ever stored.
+    // A table goes with a new window; the original window brings the original table back.
     void RecordVOI(float width, float level);
-    void SetVOIOriginals(float width, float level);
+    void SetVOIOriginals(float width, float level,
+                         std::shared_ptr<const zelVOITable> table = nullptr);
+    // Shows a table of the file; the window is its span then. Null is ignored.
+    void RecordVOITable(std::shared_ptr<const zelVOITable> table);
+    // Window and table of another frame.
+    void AdoptVOI(const zel_TransformRec& other);
+    [[nodiscard]] bool IsVOIAtOriginals() const;
     // Ignored unless the maximum is above the minimum and that is at least one display step: 1.0,
     // or the factor of `voiInfo` where that isn't 1.
     void SetVOIWidthLimits(float minimum, float maximum);
