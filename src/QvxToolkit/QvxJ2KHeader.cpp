@@ -3,6 +3,8 @@
 #include "util/ByteOrder.h"
 #include "util/FourCC.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::uint16_t kStartOfCodestream = 0xFF4F, kSize = 0xFF51, kCodingDefault = 0xFF52,
@@ -128,4 +130,30 @@ bool QvxReadJ2KHeader(Bytes stream, QvxJ2KHeader* header, std::string* why)
     if (sized)
         why->clear();
     return sized;
+}
+
+bool QvxBoundTileParts(std::span<std::uint8_t> stream)
+{
+    constexpr std::size_t kPartHeader = 12, kLengthAt = 6;
+    QvxJ2KHeader header;
+    const Bytes code = CodestreamOf(stream, &header);
+    if (code.empty())
+        return false;
+    const auto begin = static_cast<std::size_t>(code.data() - stream.data());
+    const std::size_t end = begin + code.size();
+    bool changed = false;
+    std::size_t at = begin + 2;
+    while (at + 4 <= end && LoadBE<std::uint16_t>(stream.data() + at) != kStartOfTile)
+        at += 2 + std::max<std::size_t>(LoadBE<std::uint16_t>(stream.data() + at + 2), 2);
+    while (at + kPartHeader <= end && LoadBE<std::uint16_t>(stream.data() + at) == kStartOfTile) {
+        const std::uint32_t length = LoadBE<std::uint32_t>(stream.data() + at + kLengthAt);
+        if (length > end - at) {
+            StoreBE(stream.data() + at + kLengthAt, static_cast<std::uint32_t>(end - at));
+            changed = true;
+        }
+        if (length < kPartHeader || changed)
+            break;
+        at += length;
+    }
+    return changed;
 }

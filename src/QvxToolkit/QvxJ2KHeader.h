@@ -20,3 +20,8 @@ struct QvxJ2KHeader {
 // of several sizes or precisions, an image that doesn't begin at 0.
 [[nodiscard]] bool QvxReadJ2KHeader(std::span<const std::uint8_t> stream, QvxJ2KHeader* header,
                                     std::string* why);
+
+// Tile parts say how long they are, and the library takes their word for what it sets aside. Cuts
+// those that reach beyond the end of the codestream to what is there. False when none did, and
+// nothing was changed.
+bool QvxBoundTileParts(std::span<std::uint8_t> stream);

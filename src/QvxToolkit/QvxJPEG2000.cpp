@@ -10,8 +10,8 @@
 
 namespace {
 
-// Beyond it a stream is made to keep a machine busy, not to show a picture.
-constexpr std::uint64_t kMostTiles = 65535;
+// More tiles than that are made to keep a machine busy, not to show a picture.
+constexpr std::uint64_t kFewTiles = 64, kPixelsOfTile = 256;
 // Threads pay from about this size on.
 constexpr std::uint64_t kPixelsForThreads = std::uint64_t{1} << 18;
 constexpr unsigned kMostThreads = 8;
@@ -189,7 +189,7 @@ QvxStatus CheckHeader(const QvxFrameRecord& record, const QvxJ2KHeader& header,
         return status;
     // The library's planes are of 32 bits, and it keeps as much again while it decodes.
     if (record.Pixels() * facts.fSamples * 4 > kMaxDecodedBytes || facts.fPrecision > 31 ||
-        header.fTiles > kMostTiles) {
+        header.fTiles > kFewTiles + record.Pixels() / kPixelsOfTile) {
         *why = "a JPEG 2000 image that is too large";
         return kQvxUnsupported;
     }
@@ -215,7 +215,9 @@ QvxStatus QvxDecodeJPEG2000(const QvxFrameRecord& record, const QvxStream& strea
     if (const QvxStatus status = CheckHeader(record, header, facts, stream.fBytes.size(), why))
         return status;
     ImagePtr image;
-    if (const QvxStatus status = Decode(header, stream.Bytes(), record.Pixels(), &image, why))
+    QvxBytes bounded(stream.fBytes);
+    QvxBoundTileParts(bounded);
+    if (const QvxStatus status = Decode(header, bounded, record.Pixels(), &image, why))
         return status;
     if (!IsAsPromised(*image, facts)) {
         *why = "the JPEG 2000 stream lacks a component";

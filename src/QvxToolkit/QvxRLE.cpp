@@ -11,31 +11,83 @@ namespace {
 
 constexpr std::size_t kHeaderBytes = 64;
 constexpr std::uint32_t kMostSegments = 15;
+constexpr std::size_t kShort = 16;  // bytes
 
 struct Segment {
     std::span<const std::uint8_t> fBytes;
 };
 
-// PackBits into `plane`, as far as the segment goes; answers how many bytes it gave.
-std::size_t Unpack(std::span<const std::uint8_t> segment, std::span<std::uint8_t> plane)
-{
-    std::size_t in = 0, out = 0;
-    const std::size_t inEnd = segment.size(), outEnd = plane.size();
-    while (in < inEnd && out < outEnd) {
-        const auto code = static_cast<std::int8_t>(segment[in++]);
-        if (code >= 0) {
-            const std::size_t count =
-                std::min({static_cast<std::size_t>(code) + 1, inEnd - in, outEnd - out});
-            std::memcpy(plane.data() + out, segment.data() + in, count);
-            in += count;
-            out += count;
-        } else if (code != -128 && in < inEnd) {
-            const std::size_t count = std::min<std::size_t>(1 - std::int32_t{code}, outEnd - out);
-            std::memset(plane.data() + out, segment[in++], count);
-            out += count;
-        }
+// PackBits, piece by piece.
+class PackBits {
+public:
+    explicit PackBits(std::span<const std::uint8_t> segment)
+        : fIn(segment.data()), fEnd(segment.data() + segment.size())
+    {
     }
-    return out;
+    // Fills `count` bytes; what the segment lacks is 0.
+    void Read(std::uint8_t* out, std::size_t count);
+    [[nodiscard]] bool CutShort() const { return fCutShort; }
+
+private:
+    bool NextPacket();
+
+    const std::uint8_t* fIn;
+    const std::uint8_t* fEnd;
+    std::size_t fLeft = 0;  // of the present packet
+    int fValue = -1;        // of a run; -1: literals
+    bool fCutShort = false;
+};
+
+bool PackBits::NextPacket()
+{
+    while (fIn < fEnd) {
+        const auto code = static_cast<std::int8_t>(*fIn++);
+        if (code == -128)  // nothing, by agreement
+            continue;
+        if (code >= 0) {
+            fLeft = std::min<std::size_t>(static_cast<std::size_t>(code) + 1,
+                                          static_cast<std::size_t>(fEnd - fIn));
+            fValue = -1;
+            return fLeft > 0;
+        }
+        if (fIn == fEnd)
+            return false;
+        fLeft = static_cast<std::size_t>(1 - code);
+        fValue = *fIn++;
+        return true;
+    }
+    return false;
+}
+
+void PackBits::Read(std::uint8_t* out, std::size_t count)
+{
+    while (count > 0) {
+        if (fLeft == 0 && !NextPacket()) {
+            std::memset(out, 0, count);
+            fCutShort = true;
+            return;
+        }
+        const std::size_t now = std::min(fLeft, count);
+        // Most packets are short: a fixed size is one store, and what it writes too much comes
+        // next.
+        const bool room = now <= kShort && count >= kShort;
+        if (fValue >= 0) {
+            if (room)
+                std::memset(out, fValue, kShort);
+            else
+                std::memset(out, fValue, now);
+        } else {
+            const bool readable = static_cast<std::size_t>(fEnd - fIn) >= kShort;
+            if (room && readable)
+                std::memcpy(out, fIn, kShort);
+            else
+                std::memcpy(out, fIn, now);
+            fIn += now;
+        }
+        out += now;
+        count -= now;
+        fLeft -= now;
+    }
 }
 
 // Where the segments lie: each from its offset to the next one's, or the end of the stream.
@@ -67,79 +119,51 @@ bool ReadSegments(std::span<const std::uint8_t> stream, std::uint32_t wanted,
     return true;
 }
 
-template <std::size_t kStep>
-void Spread(const std::uint8_t* plane, std::uint8_t* to, std::size_t count)
+// Two planes become words of the host.
+void SpreadWords(const std::uint8_t* __restrict high, const std::uint8_t* __restrict low,
+                 std::uint16_t* __restrict words, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i)
-        to[i * kStep] = plane[i];
+        words[i] = static_cast<std::uint16_t>(high[i] << 8 | low[i]);
 }
 
-// Two planes at once become words of the host.
-void SpreadWords(const std::uint8_t* high, const std::uint8_t* low, std::uint8_t* to,
-                 std::size_t count)
+void SpreadPlane(const std::uint8_t* __restrict plane, std::uint8_t* __restrict to,
+                 std::size_t count, std::size_t step)
 {
-    auto* words = to;
-    for (std::size_t i = 0; i < count; ++i) {
-        const auto word = static_cast<std::uint16_t>(high[i] << 8 | low[i]);
-        std::memcpy(words + 2 * i, &word, sizeof word);
-    }
+    for (std::size_t i = 0; i < count; ++i)
+        to[i * step] = plane[i];
 }
 
-void SpreadPlane(const std::uint8_t* plane, std::uint8_t* to, std::size_t count, std::size_t step)
+using Planes = std::vector<PackBits>;
+
+// All planes, a piece of each at a time: small enough to stay in the processor's caches.
+void FillSamples(Planes* planes, std::size_t cellBytes, std::size_t pixels, std::uint8_t* samples)
 {
-    switch (step) {
-        case 2:
-            return Spread<2>(plane, to, count);
-        case 3:
-            return Spread<3>(plane, to, count);
-        case 4:
-            return Spread<4>(plane, to, count);
-        default:
-            for (std::size_t i = 0; i < count; ++i)
-                to[i * step] = plane[i];
-    }
-}
-
-// The samples of all planes, bytes in host order.
-class PlaneReader {
-public:
-    PlaneReader(const QvxFrameRecord& record, std::uint32_t sampleBytes)
-        : fSamples(record.fSamples), fBytes(sampleBytes), fPixels(record.Pixels())
-    {
-    }
-    void Fill(const std::array<Segment, kMostSegments>& segments, QvxBytes* samples);
-    [[nodiscard]] bool CutShort() const { return fCutShort; }
-
-private:
-    void UnpackInto(const Segment& segment, std::span<std::uint8_t> plane)
-    {
-        fCutShort = Unpack(segment.fBytes, plane) < plane.size() || fCutShort;
-    }
-    std::size_t fSamples, fBytes, fPixels;
-    bool fCutShort = false;
-};
-
-void PlaneReader::Fill(const std::array<Segment, kMostSegments>& segments, QvxBytes* samples)
-{
-    if (fSamples == 1 && fBytes == 1)
-        return UnpackInto(segments[0], *samples);
-    const bool words = fSamples == 1 && fBytes == 2;
-    QvxBytes planes((words ? 2 : 1) * fPixels);
-    const std::span<std::uint8_t> first(planes.data(), fPixels);
-    if (words) {
-        const std::span<std::uint8_t> second(planes.data() + fPixels, fPixels);
-        UnpackInto(segments[0], first);
-        UnpackInto(segments[1], second);
-        return SpreadWords(first.data(), second.data(), samples->data(), fPixels);
-    }
-    const std::size_t step = fSamples * fBytes;
-    for (std::size_t sample = 0; sample < fSamples; ++sample) {
-        for (std::size_t byte = 0; byte < fBytes; ++byte) {
-            std::fill(first.begin(), first.end(), std::uint8_t{0});
-            UnpackInto(segments[sample * fBytes + byte], first);
-            const std::size_t place =
-                std::endian::native == std::endian::little ? fBytes - 1 - byte : byte;
-            SpreadPlane(first.data(), samples->data() + sample * fBytes + place, fPixels, step);
+    constexpr std::size_t kPiece = 8192;
+    alignas(64) std::array<std::uint8_t, 2 * kPiece> piece;
+    const std::size_t step = planes->size();
+    for (std::size_t first = 0; first < pixels; first += kPiece) {
+        const std::size_t count = std::min(kPiece, pixels - first);
+        std::uint8_t* to = samples + first * step;
+        if (step == 1) {
+            (*planes)[0].Read(to, count);
+            continue;
+        }
+        if (step == 2) {
+            (*planes)[0].Read(piece.data(), count);
+            (*planes)[1].Read(piece.data() + kPiece, count);
+            // The block is a vector's, and the place an even one: aligned for words.
+            SpreadWords(piece.data(), piece.data() + kPiece, reinterpret_cast<std::uint16_t*>(to),
+                        count);
+            continue;
+        }
+        for (std::size_t plane = 0; plane < step; ++plane) {
+            (*planes)[plane].Read(piece.data(), count);
+            const std::size_t byte = plane % cellBytes;
+            const std::size_t place = std::endian::native == std::endian::little
+                                          ? plane - byte + (cellBytes - 1 - byte)
+                                          : plane;
+            SpreadPlane(piece.data(), to + place, count, step);
         }
     }
 }
@@ -182,18 +206,20 @@ QvxStatus QvxDecodeRLE(const QvxFrameRecord& record, const QvxStream& stream, De
         *why = "the stream is far too short for its frame";
         return kQvxMalformed;
     }
-    bool cut = false;
+    Planes planes;
+    for (std::uint32_t i = 0; i < record.fSamples * cellBytes; ++i)
+        planes.emplace_back(segments[i].fBytes);
     QvxBytes samples;
     if (bits) {
         QvxBytes packed((pixels + 7) / 8);
-        cut = Unpack(segments[0].fBytes, packed) < packed.size();
+        planes[0].Read(packed.data(), packed.size());
         samples = BitsToSamples(packed, pixels);
     } else {
-        samples = QvxTakeBlock(frame, pixels * record.fSamples * cellBytes);
-        PlaneReader reader(record, cellBytes);
-        reader.Fill(segments, &samples);
-        cut = reader.CutShort();
+        samples = std::move(frame->fBytes);
+        samples.resize(pixels * planes.size());  // all of it is written
+        FillSamples(&planes, cellBytes, pixels, samples.data());
     }
+    const bool cut = std::ranges::any_of(planes, &PackBits::CutShort);
     QvxTakeSamples(record, facts, QvxStreamColor::AsFileSays, std::move(samples), frame);
     frame->fCutShort = stream.fCutShort || cut;
     return kQvxOK;

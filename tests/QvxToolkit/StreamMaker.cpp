@@ -285,19 +285,24 @@ std::string RLE(const StreamPicture& picture, int bytesOfSample)
             for (int v = 0; v < picture.rows; ++v)
                 for (int h = 0; h < picture.columns; ++h)
                     plane += static_cast<char>(picture.At(v, h, s) >> (8 * byte) & 0xFF);
-            for (std::size_t i = 0; i < plane.size();) {
+            const auto runAt = [&plane](std::size_t at) {
                 std::size_t run = 1;
-                while (i + run < plane.size() && run < 128 && plane[i + run] == plane[i])
+                while (at + run < plane.size() && run < 128 && plane[at + run] == plane[at])
                     ++run;
-                if (run > 1) {
+                return run;
+            };
+            for (std::size_t i = 0; i < plane.size();) {
+                if (const std::size_t run = runAt(i); run > 2) {
                     packed += {static_cast<char>(1 - static_cast<int>(run)), plane[i]};
                     i += run;
-                } else {
-                    const std::size_t count = std::min<std::size_t>(3, plane.size() - i);
-                    packed += static_cast<char>(count - 1);
-                    packed += plane.substr(i, count);
-                    i += count;
+                    continue;
                 }
+                std::size_t end = i + 1;
+                while (end < plane.size() && end - i < 128 && runAt(end) < 3)
+                    ++end;
+                packed += static_cast<char>(end - i - 1);
+                packed += plane.substr(i, end - i);
+                i = end;
             }
             if (packed.size() % 2)
                 packed += '\x80';
