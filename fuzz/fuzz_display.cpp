@@ -7,8 +7,9 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QvxReaderPtr reader = OpenFuzzInput(data, size);
-    QvxFrameRecord record;
-    if (!reader || QvxMakeFrameRecord(reader.get(), &record) != kQvxOK ||
+    QvxFrameRecord ofFile, record;
+    if (!reader || QvxMakeFrameRecord(reader.get(), &ofFile) != kQvxOK ||
+        QvxRecordOfFrame(reader.get(), ofFile, ofFile.fFrames, &record) != kQvxOK ||
         record.Pixels() > std::uint64_t{1} << 20)
         return 0;
     DecodedFrame frame;
@@ -32,5 +33,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         format != kPixelFormatARGB32 && (low < 0 || high > 65535))
         std::abort();
     (void)QvxCodecPixelInfo(record, &frame);
+    std::vector<QvxVOIChoice> choices;
+    if (QvxCodecVOIChoices(reader.get(), record, record.fFrames, &choices) == kQvxOK) {
+        for (const QvxVOIChoice& choice : choices) {
+            if (!(choice.fWidth > 0) || (choice.fTable && choice.fTable->fEntries.empty()))
+                std::abort();
+        }
+    }
     return 0;
 }

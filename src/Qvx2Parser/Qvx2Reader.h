@@ -202,7 +202,8 @@ inline constexpr std::uint32_t kMetaPixelDataUndefined = FourCC("S_PD");
 // The row of one frame.
 [[nodiscard]] QvxStatus Qvx2Reader_GetFrameMapRecord(QvxParserRec* reader, std::uint32_t frame,
                                                      QvxFrameMapRecord* row);
-// What the file claims, without mapping, or else what the data holds.
+// What the file claims, without mapping, or else what the data holds. Float pixels are not mapped;
+// without (0028,0008) they are claimed as one frame.
 inline constexpr std::uint32_t kFramesClaimed = 1;
 [[nodiscard]] QvxStatus Qvx2Reader_GetNumberOfFrames(QvxParserRec* reader, std::uint32_t flags,
                                                      std::uint32_t* count);

@@ -13,6 +13,20 @@ QvxStatus MapFrames(QvxParserRec* reader)
     return reader->fState ? kQvxOK : kQvxBadArgument;
 }
 
+// The map is of (7FE0,0010) alone; pixels of (7FE0,0008) or (7FE0,0009) without (0028,0008) are one
+// frame.
+bool HasFloatPixels(QvxParserRec* reader)
+{
+    for (const QvxElementTag tag : {QvxElementTag{0x7FE0, 0x0008}, QvxElementTag{0x7FE0, 0x0009}}) {
+        QvxElementRef element{};
+        std::uint32_t size = 0;
+        if (Qvx2Reader_FindElement(reader, QvxElementRef::None, tag, &element) == kQvxOK &&
+            Qvx2Reader_GetElementDataSize(reader, element, &size) == kQvxOK && size != 0)
+            return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 QvxStatus QvxNewFrameMap(const QvxParserRec& reader, std::span<const QvxFrameMapRecord> rows,
@@ -81,6 +95,8 @@ QvxStatus Qvx2Reader_GetNumberOfFrames(QvxParserRec* reader, std::uint32_t flags
     const ExtraHeaderDataRec& state = *reader->fState;
     if (state.IsDirectory())
         *count = 0;
+    else if (claimed && state.fNominalFrames == 0 && HasFloatPixels(reader))
+        *count = 1;
     else
         *count = claimed ? state.fNominalFrames : state.fActualFrames;
     return kQvxOK;

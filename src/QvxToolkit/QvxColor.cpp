@@ -90,8 +90,7 @@ void QvxTurnToRGB(const QvxFrameRecord& record, DecodedFrame* frame)
 {
     const QvxPhotometric kind = record.fPhotometric;
     const bool isYBR = kind == QvxPhotometric::YBRFull || kind == QvxPhotometric::YBRFull422 ||
-                       kind == QvxPhotometric::YBRPartial || kind == QvxPhotometric::YBRICT ||
-                       kind == QvxPhotometric::YBRRCT;
+                       kind == QvxPhotometric::YBRPartial;
     if (!isYBR || record.IsGray())
         return;
     const YBRToRGB& rule = kind == QvxPhotometric::YBRPartial ? kPartialRange : kFullRange;

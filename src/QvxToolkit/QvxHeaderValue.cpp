@@ -93,14 +93,22 @@ std::optional<std::uint32_t> QvxHeaderCount(QvxParserRec* reader, QvxElementTag 
     return static_cast<std::uint32_t>(*number);
 }
 
+std::string QvxHeaderText(QvxParserRec* reader, QvxElementTag tag, QvxElementRef parent,
+                          std::int32_t index)
+{
+    QvxHandle handle;
+    if (ParserGetElementDataAsText(reader, parent, tag.group, tag.element, index, &handle) !=
+        kQvxOK)
+        return {};
+    std::string text(handle.Text());
+    while (!text.empty() && (text.back() == ' ' || text.back() == '\0'))
+        text.pop_back();
+    return text;
+}
+
 std::string QvxHeaderWord(QvxParserRec* reader, QvxElementTag tag, QvxElementRef parent)
 {
-    QvxHandle text;
-    if (ParserGetElementDataAsText(reader, parent, tag.group, tag.element, 1, &text) != kQvxOK)
-        return {};
-    std::string word(text.Text());
-    while (!word.empty() && (word.back() == ' ' || word.back() == '\0'))
-        word.pop_back();
+    std::string word = QvxHeaderText(reader, tag, parent);
     word.erase(0, word.find_first_not_of(' '));
     for (char& letter : word) {
         if (letter >= 'a' && letter <= 'z')
@@ -132,14 +140,21 @@ std::vector<std::uint16_t> QvxHeaderWords(QvxParserRec* reader, QvxElementTag ta
     return words;
 }
 
-QvxElementRef QvxHeaderItem(QvxParserRec* reader, QvxElementRef parent, QvxElementTag tag,
-                            std::size_t index)
+std::vector<QvxElementRef> QvxHeaderItems(QvxParserRec* reader, QvxElementRef parent,
+                                          QvxElementTag tag)
 {
     QvxElementRef sequence{};
     QvxElementRefArray items;
     if (Qvx2Reader_FindElement(reader, parent, tag, &sequence) != kQvxOK ||
         Qvx2Reader_GetElementRefs(reader, sequence, &items) != kQvxOK)
-        return QvxElementRef::None;
+        return {};
     const auto refs = QvxRefsOf(items);
-    return index < refs.size() ? refs[index] : QvxElementRef::None;
+    return {refs.begin(), refs.end()};
+}
+
+QvxElementRef QvxHeaderItem(QvxParserRec* reader, QvxElementRef parent, QvxElementTag tag,
+                            std::size_t index)
+{
+    const auto items = QvxHeaderItems(reader, parent, tag);
+    return index < items.size() ? items[index] : QvxElementRef::None;
 }

@@ -22,6 +22,13 @@ struct QvxLookupTable {
         const auto place = static_cast<std::uint64_t>(value - fFirst);
         return place < fEntries.size() ? fEntries[place] : fEntries.back();
     }
+    // The window that is the span of the table's input.
+    [[nodiscard]] float Width() const { return static_cast<float>(fEntries.size()); }
+    [[nodiscard]] float Level() const
+    {
+        return static_cast<float>(static_cast<double>(fFirst) +
+                                  static_cast<double>(fEntries.size()) / 2);
+    }
     // What entries can be at most.
     [[nodiscard]] std::uint32_t Greatest() const { return (1u << fBits) - 1; }
     bool operator==(const QvxLookupTable&) const = default;

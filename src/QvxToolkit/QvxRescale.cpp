@@ -50,11 +50,7 @@ std::shared_ptr<const QvxFrameGroups> GroupsOf(QvxParserRec* reader)
 {
     auto groups = std::make_shared<QvxFrameGroups>();
     groups->fShared = QvxHeaderItem(reader, QvxElementRef::None, kTagSharedGroups);
-    QvxElementRefArray items;
-    if (Qvx2Reader_GetSequenceElementRefs(reader, kTagFrameGroups, &items) == kQvxOK) {
-        const auto refs = QvxRefsOf(items);
-        groups->fOfFrame.assign(refs.begin(), refs.end());
-    }
+    groups->fOfFrame = QvxHeaderItems(reader, QvxElementRef::None, kTagFrameGroups);
     if (groups->fShared == QvxElementRef::None && groups->fOfFrame.empty())
         return nullptr;
     return groups;

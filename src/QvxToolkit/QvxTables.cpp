@@ -44,10 +44,7 @@ std::optional<QvxLookupTable> QvxReadLookupTable(QvxParserRec* reader, QvxElemen
     }
     const std::uint16_t greatest = *std::ranges::max_element(table.fEntries);
     table.fBits = std::max(table.fBits, static_cast<std::uint32_t>(std::bit_width(greatest)));
-    QvxHandle text;
-    if (ParserGetElementDataAsText(reader, item, kTagExplanation.group, kTagExplanation.element, 1,
-                                   &text) == kQvxOK)
-        table.fExplanation = text.Text();
+    table.fExplanation = QvxHeaderText(reader, kTagExplanation, item);
     return table;
 }
 

@@ -42,15 +42,6 @@ private:
     QvxVOIFunction fFunction = QvxVOIFunction::Linear;
 };
 
-std::string TextBelow(QvxParserRec* reader, QvxElementRef place, QvxElementTag tag,
-                      std::int32_t index)
-{
-    QvxHandle text;
-    if (ParserGetElementDataAsText(reader, place, tag.group, tag.element, index, &text) != kQvxOK)
-        return {};
-    return std::string(text.Text());
-}
-
 void VOIReader::TakeFunction(QvxElementRef place)
 {
     const std::string name = QvxHeaderWord(fReader, kTagFunction, place);
@@ -87,7 +78,7 @@ void VOIReader::AddWindows(QvxElementRef place, std::vector<QvxVOIChoice>* choic
         window.fFunction = fFunction;
         if (!std::isfinite(window.fWidth) || !std::isfinite(window.fLevel) || !(window.fWidth > 0))
             continue;
-        window.fExplanation = TextBelow(fReader, place, kTagWindowExplanation, i);
+        window.fExplanation = QvxHeaderText(fReader, kTagWindowExplanation, place, i);
         choices->push_back(std::move(window));
     }
 }
@@ -103,11 +94,9 @@ double VOIReader::LeastUser() const
 
 void VOIReader::AddTables(QvxElementRef place, std::vector<QvxVOIChoice>* choices) const
 {
-    for (std::int32_t i = 0; i < kMostChoices; ++i) {
-        const QvxElementRef item =
-            QvxHeaderItem(fReader, place, kTagTables, static_cast<std::size_t>(i));
-        if (item == QvxElementRef::None)
-            break;
+    auto items = QvxHeaderItems(fReader, place, kTagTables);
+    items.resize(std::min(items.size(), std::size_t{kMostChoices}));
+    for (const QvxElementRef item : items) {
         std::string why;
         auto table = QvxReadLookupTable(fReader, item, fRecord.fByteOrder, &why);
         if (!table) {
@@ -122,9 +111,8 @@ void VOIReader::AddTables(QvxElementRef place, std::vector<QvxVOIChoice>* choice
         if (least < 0 && static_cast<double>(asSigned.Last()) >= least)
             table->fFirst = asSigned.fFirst;
         QvxVOIChoice choice;
-        const auto entries = static_cast<double>(table->fEntries.size());
-        choice.fWidth = static_cast<float>(entries);
-        choice.fLevel = static_cast<float>(static_cast<double>(table->fFirst) + entries / 2);
+        choice.fWidth = table->Width();
+        choice.fLevel = table->Level();
         choice.fFunction = fFunction;
         choice.fExplanation = table->fExplanation;
         choice.fTable = std::make_shared<const QvxLookupTable>(std::move(*table));

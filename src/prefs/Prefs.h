@@ -29,7 +29,6 @@ void prefs_Synchronize();
 
 // --- Constants -----------------------------------------------------------------------------------
 
-constexpr bool prefs_EnhanceVOIContrast() { return true; }
 constexpr int prefs_GetScaleMethod() { return 3; }
 constexpr bool prefs_RemovePrivateFields() { return false; }  // whatever is stored
 constexpr bool prefs_FullScreen_HideToolbar() { return false; }
@@ -73,6 +72,10 @@ inline constexpr std::string_view kPrefsKeyRecentDocuments = "ZELRecentDocuments
 
 [[nodiscard]] int prefs_ToolScope();  // 0 or 1
 void prefs_Set_ToolScope(int scope);
+// A window is cut to the values that a frame really has. Off: it is shown by the standard's formula,
+// whatever the frame's range.
+[[nodiscard]] bool prefs_EnhanceVOIContrast();
+void prefs_Set_EnhanceVOIContrast(bool on);
 [[nodiscard]] bool prefs_LimitAutoFit();  // kept for older settings; nothing reads it
 void prefs_Set_LimitAutoFit(bool on);
 [[nodiscard]] int prefs_PreviewPictSize();  // points; 23 is text only, 257 icons only

@@ -69,6 +69,16 @@ bool CImporterPlus::SupportsMultipleResolution() const
     return GetImporterBaseType() == FourCC("FPix");
 }
 
+QvxStatus CImporterPlus::GetVOIChoices(std::vector<QvxVOIChoice>* choices)
+{
+    return Instance() ? Instance()->GetVOIChoices(choices) : kQvxNoImporter;
+}
+
+QvxStatus CImporterPlus::GetDefaultWindow(QvxDefaultWindow* window)
+{
+    return Instance() ? Instance()->GetDefaultWindow(window) : kQvxNoImporter;
+}
+
 QvxStatus CImporterPlus::GetImageDataInfo(std::uint32_t selector, std::uint32_t* code)
 {
     return Instance() ? Instance()->GetImageDataInfo(selector, code) : kQvxNoImporter;

@@ -48,6 +48,9 @@ public:
     // Containers whose images are layers of one picture, or one picture in several sizes.
     [[nodiscard]] bool SupportsLayers() const;
     [[nodiscard]] bool SupportsMultipleResolution() const;
+    // As of GraphicsImporter.
+    [[nodiscard]] QvxStatus GetVOIChoices(std::vector<QvxVOIChoice>* choices);
+    [[nodiscard]] QvxStatus GetDefaultWindow(QvxDefaultWindow* window);
     // 'G_CT' and the like; kQvxUnsupported for importers that can't tell.
     [[nodiscard]] QvxStatus GetImageDataInfo(std::uint32_t selector, std::uint32_t* code);
 

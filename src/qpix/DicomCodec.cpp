@@ -72,12 +72,15 @@ QvxStatus DicomCodec::Decode(QvxParserRec* reader, const QvxFrameRecord& record,
 {
     const bool masked = std::exchange(fMasking, false) && fMask.baseAddr;
     fRecord.reset();
-    if (const QvxStatus status = DecodeFrame(reader, record, frame, &fStored, why))
+    QvxFrameRecord own;  // rescale may be the frame's own
+    if (const QvxStatus status = QvxRecordOfFrame(reader, record, frame, &own))
+        return status;
+    if (const QvxStatus status = DecodeFrame(reader, own, frame, &fStored, why))
         return status;
     if (const QvxStatus status =
-            QvxCodecFillPixels(reader, record, fStored, map, &fPixelMinimum, &fPixelMaximum))
+            QvxCodecFillPixels(reader, own, fStored, map, &fPixelMinimum, &fPixelMaximum))
         return status;
-    fRecord = record;
+    fRecord = std::move(own);
     if (masked && fMask.pixelFormat == map.pixelFormat && fMask.bounds == map.bounds)
         SubtractMask(map);
     return kQvxOK;

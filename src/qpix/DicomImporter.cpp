@@ -162,8 +162,9 @@ QvxStatus DicomImporter::GetImageDescription(ImageDescription* description)
     } else {
         made.fDepth = static_cast<std::int16_t>(format);
     }
-    const QvxReaderUse use(fReader.get());
-    const QvxDefaultWindow window = QvxCodecDefaultWindow(fReader.get(), fRecord);
+    QvxDefaultWindow window;
+    if (const QvxStatus status = GetDefaultWindow(&window))
+        return status;
     if (window.fFound)
         if (const QvxStatus status =
                 SetDicomDescriptionDefaultWindow(&made, window.fWidth, window.fLevel))
@@ -194,6 +195,37 @@ QvxStatus DicomImporter::ReadData(void* dest, std::uint32_t offset, std::uint32_
         return kQvxBadArgument;
     const QvxReaderUse use(fReader.get());
     return Qvx2Reader_ReadData(fReader.get(), dest, offset, size);
+}
+
+QvxStatus DicomImporter::GetVOIChoices(std::vector<QvxVOIChoice>* choices)
+{
+    if (const QvxStatus status = Load())
+        return status;
+    if (fRecordStatus)
+        return fRecordStatus;
+    const QvxReaderUse use(fReader.get());
+    const auto image = static_cast<std::uint32_t>(ImageIndex());
+    QvxFrameRecord ofImage;
+    if (const QvxStatus status = QvxRecordOfFrame(fReader.get(), fRecord, image, &ofImage))
+        return status;
+    return QvxCodecVOIChoices(fReader.get(), ofImage, image, choices);
+}
+
+QvxStatus DicomImporter::GetDefaultWindow(QvxDefaultWindow* window)
+{
+    if (!window)
+        return kQvxBadArgument;
+    if (const QvxStatus status = Load())
+        return status;
+    if (fRecordStatus)
+        return fRecordStatus;
+    const QvxReaderUse use(fReader.get());
+    const auto image = static_cast<std::uint32_t>(ImageIndex());
+    QvxFrameRecord ofImage;
+    if (const QvxStatus status = QvxRecordOfFrame(fReader.get(), fRecord, image, &ofImage))
+        return status;
+    *window = QvxCodecDefaultWindow(fReader.get(), ofImage, image);
+    return kQvxOK;
 }
 
 QvxStatus DicomImporter::GetImageDataInfo(std::uint32_t selector, std::uint32_t* code)

@@ -32,6 +32,8 @@ public:
                                                  std::uint32_t* size) override;
     [[nodiscard]] QvxStatus ReadData(void* dest, std::uint32_t offset, std::uint32_t size) override;
     [[nodiscard]] QvxStatus GetImageDataInfo(std::uint32_t selector, std::uint32_t* code) override;
+    [[nodiscard]] QvxStatus GetVOIChoices(std::vector<QvxVOIChoice>* choices) override;
+    [[nodiscard]] QvxStatus GetDefaultWindow(QvxDefaultWindow* window) override;
     [[nodiscard]] QvxStatus GetOverlayCount(std::int32_t* count) override;
     [[nodiscard]] QvxStatus SetOverlayIndex(std::int32_t index) override;
     [[nodiscard]] QvxStatus GetOverlayBounds(Rect* bounds) override;

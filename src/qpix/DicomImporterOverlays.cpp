@@ -23,9 +23,8 @@ QvxStatus DicomImporter::LoadOverlays()
     if (fOverlayImage == ImageIndex())
         return kQvxOK;
     fOverlayIndex = 0;
-    if (const QvxStatus status =
-            QvxOverlaysOfFrame(fReader.get(), fRecord, static_cast<std::uint32_t>(ImageIndex()),
-                               &fOverlays))
+    if (const QvxStatus status = QvxOverlaysOfFrame(
+            fReader.get(), fRecord, static_cast<std::uint32_t>(ImageIndex()), &fOverlays))
         return status;
     // What no port can hold is no overlay.
     std::erase_if(fOverlays, [](const QvxOverlay& overlay) {

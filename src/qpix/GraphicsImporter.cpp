@@ -16,6 +16,10 @@ QvxStatus GraphicsImporter::GetImageDataInfo(std::uint32_t, std::uint32_t*)
     return kQvxUnsupported;
 }
 
+QvxStatus GraphicsImporter::GetVOIChoices(std::vector<QvxVOIChoice>*) { return kQvxUnsupported; }
+
+QvxStatus GraphicsImporter::GetDefaultWindow(QvxDefaultWindow*) { return kQvxUnsupported; }
+
 QvxStatus GraphicsImporter::GetOverlayCount(std::int32_t* count)
 {
     if (!count)

@@ -7,10 +7,12 @@
 #include "util/ImageDescription.h"
 #include "util/StatusCodes.h"
 
+#include "QvxToolkit/QvxCodec.h"
 #include "qpix/MatrixRecord.h"
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 class COffscreen;
 class DicomCodec;
@@ -79,6 +81,10 @@ public:
     // kStoredLossyJPEG is the one that others must know. kQvxUnsupported for another selector and
     // for kinds that can't tell.
     [[nodiscard]] virtual QvxStatus GetImageDataInfo(std::uint32_t selector, std::uint32_t* code);
+    // The looks that the file offers for the current image, and the one that it is shown with
+    // first. kQvxUnsupported for kinds without any.
+    [[nodiscard]] virtual QvxStatus GetVOIChoices(std::vector<QvxVOIChoice>* choices);
+    [[nodiscard]] virtual QvxStatus GetDefaultWindow(QvxDefaultWindow* window);
     // What the current image is beside others of its file: bits of IndexedImageKind.
     [[nodiscard]] virtual std::uint32_t ImageKind() { return 0; }
     // The overlays of the current image, from 1; kinds without any answer a count of 0.

@@ -211,6 +211,41 @@ TEST(QvxCodec, padding_is_left_out_of_the_range)
     }
 }
 
+TEST(QvxCodec, padding_of_floats_and_deep_integers_does_not_stretch_the_scale)
+{
+    struct Row {
+        const char* fault;
+        DicomBuilder builder;
+        double factor;
+        std::vector<int> display;
+        std::int32_t least, most;
+    };
+    const auto floats = [](const char* vr, std::uint16_t tag, const std::vector<double>& pixels) {
+        return ImageFile({.columns = 4})
+            .Element(0x0028, tag, vr, pixels[0])
+            .Element(0x7FE0, tag == 0x0122 ? 0x0008 : 0x0009, tag == 0x0122 ? "OF" : "OD", pixels);
+    };
+    const ImageHead deep{.columns = 4, .allocated = 32, .stored = 32, .highBit = 31, .isSigned = 1};
+    const Row rows[] = {
+        {"float", floats("FL", 0x0122, {-1e30, 1, 2, 3}), 1, {0, 0, 1, 2}, 0, 2},
+        {"double", floats("FD", 0x0123, {1e300, 0, 0.5, 1}), 1 / 65535.0, {65535, 0, 32768, 65535},
+         0, 65535},
+        {"32 bits", ImageFile(deep).Element(0x0028, 0x0120, "SL", INT32_MIN)
+                        .NativePixels(Hex("00000080 0A000000 0B000000 0C000000")),
+         1, {0, 0, 1, 2}, 0, 2},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.fault);
+        ToolkitFile file(row.builder);
+        const Filled filled = Fill(file);
+        ASSERT_EQ(filled.status, kQvxOK) << file.why;
+        EXPECT_EQ(QvxCodecPixelInfo(file.record, &file.frame).fFactor, row.factor);
+        EXPECT_EQ(filled.display, row.display);
+        EXPECT_EQ(filled.least, row.least);
+        EXPECT_EQ(filled.most, row.most);
+    }
+}
+
 TEST(QvxCodec, colour_becomes_argb)
 {
     const struct {

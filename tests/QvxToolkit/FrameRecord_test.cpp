@@ -160,7 +160,7 @@ TEST(FrameRecord, rescale)
         {"empty",                        rescaled("", ""), kQvxOK, is(1, 0)},
         {"shared by all frames",         groups(0x9229, {3}), kQvxOK, is(3, -5)},
         {"the same in every frame",      groups(0x9230, {2, 2}), kQvxOK, is(2, -5)},
-        {"of its own in each frame",     groups(0x9230, {2, 4}), kQvxOK, is(1, 0)},
+        {"of its own in each frame",     groups(0x9230, {2, 4}), kQvxOK, is(2, -5)},
     });
 }
 

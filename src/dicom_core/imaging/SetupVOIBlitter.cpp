@@ -25,11 +25,6 @@ struct UserLimits {
     }
 };
 
-bool AtOriginals(const zel_TransformRec& record)
-{
-    return record.voiWidth == record.voiWidthOriginal && record.voiLevel == record.voiLevelOriginal;
-}
-
 // The steps of one set-up; each that fails has marked the frame's health.
 class FrameSetup {
 public:
@@ -68,7 +63,7 @@ private:
 // From the record beside a buffered frame, else from the codec.
 QvxStatus FrameSetup::LearnMeaning()
 {
-    zelFrameFacts known;
+    zelDPIFRecord known;
     const std::int32_t source = fFrame->fSource->SourceID();
     if (!FindBufferedFacts(fBuffer, fFrame->fFrameInFile, source, &known))
         if (const QvxStatus status = FactsFromCodec(*fCodec, fProperties, &known))
@@ -158,10 +153,10 @@ void FrameSetup::AdoptSibling()
         const zel_TransformRec& other = info.fTransform;
         if (&info == fFrame || other.voiInfo.pixelFormat == 0)
             continue;
-        if (AtOriginals(other))
+        if (other.IsVOIAtOriginals())
             own.RecordVOI(own.voiWidthOriginal, own.voiLevelOriginal);
         else
-            own.RecordVOI(other.voiWidth, other.voiLevel);
+            own.AdoptVOI(other);
         return;
     }
 }

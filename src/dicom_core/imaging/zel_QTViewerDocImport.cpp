@@ -86,7 +86,7 @@ bool zel_QTViewerDoc::DrawFromBuffer(std::int32_t primary, std::int32_t secondar
 {
     if (!CanImportFromExternalBuffer(primary, secondary))
         return false;
-    zelFrameFacts facts;
+    zelDPIFRecord facts;
     if (IsDicomGray() && !FindBufferedFacts(fBuffer, primary, secondary, &facts))
         return false;
     return fBuffer->DrawImageByID(primary, secondary, fImported->GetGWorldPtr(), nullptr) == kQvxOK;
@@ -103,7 +103,7 @@ void zel_QTViewerDoc::StoreInBuffer(std::int32_t primary, std::int32_t secondary
     params.makeRoomLimit = fInsertLimit;
     if (fBuffer->UpdateImage(params) || !IsDicomGray())
         return;
-    zelFrameFacts facts;
+    zelDPIFRecord facts;
     if (FactsFromCodec(*GetDicomCodec(), fProperties, &facts) == kQvxOK)
         std::ignore = StoreBufferedFacts(fBuffer, primary, secondary, facts);
 }

@@ -114,10 +114,27 @@ QvxStatus CVOIBlitter::ClipTo(std::int32_t pixelMinimum, std::int32_t pixelMaxim
                                                    QvxVOIBoundsClippingOption::PixelBounds);
 }
 
-QvxStatus CVOIBlitter::CopyWindowed(const zel_TransformRec& record, PixMap* source,
-                                    PixMap* destination, const Rect& sourceRect,
+QvxStatus CVOIBlitter::MakeCurve(const zel_TransformRec& record, const PixelRange& range,
+                                 std::vector<std::uint8_t>* grays) const
+{
+    if (!IsOpen() || !InfoUsable(record.voiInfo))
+        return kQvxBadArgument;
+    if (const QvxStatus status = CheckFormat(record.voiInfo))
+        return status;
+    return MakeVOICurve(record, range, grays);
+}
+
+QvxStatus CVOIBlitter::CopyWindowed(const zel_TransformRec& record, const PixelRange& range,
+                                    PixMap* source, PixMap* destination, const Rect& sourceRect,
                                     const Rect& destinationRect)
 {
+    if (NeedsVOICurve(record, range.has_value())) {
+        std::vector<std::uint8_t> grays;
+        if (const QvxStatus status = MakeCurve(record, range, &grays))
+            return status;
+        return Qvx2_VOIBlit_TableCopyPixels(fBlit.get(), {0, grays}, source, destination,
+                                            &sourceRect, &destinationRect);
+    }
     Window window;
     if (const QvxStatus status = GetWindow(record, &window))
         return status;
@@ -131,7 +148,7 @@ QvxStatus CVOIBlitter::CopyPixelsTo8Bits(const zel_TransformRec& record, PixMap*
 {
     if (const QvxStatus status = ClipToNothing())
         return status;
-    return CopyWindowed(record, source, destination, sourceRect, destinationRect);
+    return CopyWindowed(record, std::nullopt, source, destination, sourceRect, destinationRect);
 }
 
 QvxStatus CVOIBlitter::CopyPixelsTo8Bits(const zel_TransformRec& record, std::int32_t pixelMinimum,
@@ -141,17 +158,33 @@ QvxStatus CVOIBlitter::CopyPixelsTo8Bits(const zel_TransformRec& record, std::in
 {
     if (const QvxStatus status = ClipTo(pixelMinimum, pixelMaximum))
         return status;
-    return CopyWindowed(record, source, destination, sourceRect, destinationRect);
+    return CopyWindowed(record, zelPixelRange{pixelMinimum, pixelMaximum}, source, destination,
+                        sourceRect, destinationRect);
 }
 
-QvxStatus CVOIBlitter::BuildWindowed(const zel_TransformRec& record, const ColorTable** table)
+QvxStatus CVOIBlitter::BuildWindowed(const zel_TransformRec& record, const PixelRange& range,
+                                     const ColorTable** table)
 {
-    Window window;
     if (!table)
         return kQvxBadArgument;
-    if (const QvxStatus status = GetWindow(record, &window))
-        return status;
-    if (const QvxStatus status = BuildCTableForVOI(window.level, window.width))
+    VOIScale256 scale;
+    if (NeedsVOICurve(record, range.has_value())) {
+        std::vector<std::uint8_t> grays;
+        if (const QvxStatus status = MakeCurve(record, range, &grays))
+            return status;
+        if (grays.size() != scale.size())
+            return kQvxBadArgument;
+        std::ranges::transform(grays, scale.begin(),
+                               [](std::uint8_t gray) { return static_cast<std::uint8_t>(~gray); });
+    } else {
+        Window window;
+        if (const QvxStatus status = GetWindow(record, &window))
+            return status;
+        if (const QvxStatus status =
+                Qvx2_VOIBlit_GetVOIScale256(fBlit.get(), window.level, window.width, &scale))
+            return status;
+    }
+    if (const QvxStatus status = FillTable(scale))
         return status;
     *table = &*fTable;
     return kQvxOK;
@@ -161,7 +194,7 @@ QvxStatus CVOIBlitter::GetCTableForVOI(const zel_TransformRec& record, const Col
 {
     if (const QvxStatus status = ClipToNothing())
         return status;
-    return BuildWindowed(record, table);
+    return BuildWindowed(record, std::nullopt, table);
 }
 
 QvxStatus CVOIBlitter::GetCTableForVOI(const zel_TransformRec& record, std::int32_t pixelMinimum,
@@ -169,7 +202,7 @@ QvxStatus CVOIBlitter::GetCTableForVOI(const zel_TransformRec& record, std::int3
 {
     if (const QvxStatus status = ClipTo(pixelMinimum, pixelMaximum))
         return status;
-    return BuildWindowed(record, table);
+    return BuildWindowed(record, zelPixelRange{pixelMinimum, pixelMaximum}, table);
 }
 
 QvxStatus CVOIBlitter::BuildCTableForVOI(std::int32_t level, std::uint32_t width)
@@ -177,6 +210,12 @@ QvxStatus CVOIBlitter::BuildCTableForVOI(std::int32_t level, std::uint32_t width
     VOIScale256 scale;
     if (const QvxStatus status = Qvx2_VOIBlit_GetVOIScale256(fBlit.get(), level, width, &scale))
         return status;
+    return FillTable(scale);
+}
+
+// `scale` has the gray of each display value, 0 is black.
+QvxStatus CVOIBlitter::FillTable(const VOIScale256& scale)
+{
     try {
         if (!fTable)
             fTable = SystemColorTable(kPixelFormatGray8);
@@ -247,5 +286,23 @@ QvxStatus U_GetDisplayVOIParams(const zel_TransformRec& record, std::uint32_t* w
     if (const QvxStatus status = CVOIBlitter().UserToDisplay(record, record.voiLevel, level))
         return status;
     *width = DisplayWidth(record.voiInfo, record.voiWidth, Cut);
+    return kQvxOK;
+}
+
+QvxStatus U_SetDisplayVOIParams(zel_TransformRec* record, std::int32_t pixelMinimum,
+                                std::int32_t pixelMaximum, std::uint32_t width, std::int32_t level,
+                                bool enhance)
+{
+    if (!record)
+        return kQvxBadArgument;
+    const CVOIBlitter blitter;
+    if (enhance)
+        if (const QvxStatus status =
+                blitter.EnhanceVOIValues(pixelMinimum, pixelMaximum, &level, &width))
+            return status;
+    float user = 0;
+    if (const QvxStatus status = blitter.DisplayToUser(*record, level, &user))
+        return status;
+    record->RecordVOI(static_cast<float>(width * record->voiInfo.pixelFactor), user);
     return kQvxOK;
 }

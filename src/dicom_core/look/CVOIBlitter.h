@@ -1,6 +1,7 @@
 // Windowing as a transform record says, and the record's window in display values.
 // Levels and widths are display values, in that order, where they come as whole numbers.
 #pragma once
+#include "dicom_core/look/VOICurve.h"
 #include "dicom_core/look/zel_TransformRec.h"
 #include "util/ColorTable.h"
 
@@ -8,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 // Owns an instance of the windowing library and one gray table. Holds no window between calls.
 // Every operation gives kQvxBadArgument for missing arguments or a missing instance; those with a
@@ -65,10 +67,15 @@ private:
     [[nodiscard]] QvxStatus GetWindow(const zel_TransformRec& record, Window* window) const;
     [[nodiscard]] QvxStatus ClipToNothing();
     [[nodiscard]] QvxStatus ClipTo(std::int32_t pixelMinimum, std::int32_t pixelMaximum);
-    [[nodiscard]] QvxStatus CopyWindowed(const zel_TransformRec& record, PixMap* source,
-                                         PixMap* destination, const Rect& sourceRect,
-                                         const Rect& destinationRect);
-    [[nodiscard]] QvxStatus BuildWindowed(const zel_TransformRec& record, const ColorTable** table);
+    using PixelRange = std::optional<zelPixelRange>;
+    [[nodiscard]] QvxStatus MakeCurve(const zel_TransformRec& record, const PixelRange& range,
+                                      std::vector<std::uint8_t>* grays) const;
+    [[nodiscard]] QvxStatus CopyWindowed(const zel_TransformRec& record, const PixelRange& range,
+                                         PixMap* source, PixMap* destination,
+                                         const Rect& sourceRect, const Rect& destinationRect);
+    [[nodiscard]] QvxStatus BuildWindowed(const zel_TransformRec& record, const PixelRange& range,
+                                          const ColorTable** table);
+    [[nodiscard]] QvxStatus FillTable(const VOIScale256& scale);
 
     VOIBlitterPtr fBlit;
     std::optional<ColorTable> fTable;  // made when first needed

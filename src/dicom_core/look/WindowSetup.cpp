@@ -57,14 +57,14 @@ QvxStatus WindowSetup_RecordLimits(const zelDisplayVOILimits& limits, zel_Transf
 
 void WindowSetup_RecordOriginals(const zelWindowFacts& facts, zel_TransformRec* record)
 {
-    const bool follows = record->voiWidth == record->voiWidthOriginal &&
-                         record->voiLevel == record->voiLevelOriginal;
+    const bool follows = record->IsVOIAtOriginals();
     // Written as "not both 0", so that a NaN counts as a number that is there.
     const bool stated = facts.hasDefault && !(facts.defaultWidth == 0 && facts.defaultLevel == 0);
     if (stated)
-        record->SetVOIOriginals(facts.defaultWidth, facts.defaultLevel);
+        record->SetVOIOriginals(facts.defaultWidth, facts.defaultLevel, facts.defaultTable);
     else
         record->SetVOIOriginals(record->voiWidthMax, MiddleLevel(*record));
+    record->voiFunction = facts.function;
     if (follows)
         record->RecordVOI(record->voiWidthOriginal, record->voiLevelOriginal);
 }

@@ -1,9 +1,7 @@
 #include "dicom_core/look/zel_TransformRec.h"
 
 #include <algorithm>
-#include <type_traits>
-
-static_assert(std::is_trivially_copyable_v<zel_TransformRec>);
+#include <utility>
 
 namespace {
 
@@ -46,6 +44,8 @@ void zel_TransformRec::ResetVOI()
 {
     voiWidth = voiWidthOriginal = voiWidthMin = voiWidthMax = 0;
     voiLevel = voiLevelOriginal = voiLevelMin = voiLevelMax = 0;
+    voiFunction = zelVOIFunction::Linear;
+    voiTable = voiTableOriginal = nullptr;
 }
 
 void zel_TransformRec::ResetFlipNRot()
@@ -70,19 +70,44 @@ void zel_TransformRec::SetToVoid()
 bool zel_TransformRec::IsVoid() const
 {
     return !vertFlip && !horzFlip && rotation == 0 && !invert && brightness == 0 && contrast == 0 &&
-           autoFit && voiWidth == voiWidthOriginal && voiLevel == voiLevelOriginal;
+           autoFit && IsVOIAtOriginals();
 }
 
 void zel_TransformRec::RecordVOI(float width, float level)
 {
     voiWidth = PinnedVOI(width, voiWidthMin, voiWidthMax);
     voiLevel = PinnedVOI(level, voiLevelMin, voiLevelMax);
+    const bool original = voiWidth == voiWidthOriginal && voiLevel == voiLevelOriginal;
+    voiTable = original ? voiTableOriginal : nullptr;
 }
 
-void zel_TransformRec::SetVOIOriginals(float width, float level)
+void zel_TransformRec::SetVOIOriginals(float width, float level,
+                                       std::shared_ptr<const zelVOITable> table)
 {
     voiWidthOriginal = PinnedVOI(width, voiWidthMin, voiWidthMax);
     voiLevelOriginal = PinnedVOI(level, voiLevelMin, voiLevelMax);
+    voiTableOriginal = std::move(table);
+}
+
+void zel_TransformRec::RecordVOITable(std::shared_ptr<const zelVOITable> table)
+{
+    if (!table)
+        return;
+    RecordVOI(table->Width(), table->Level());
+    voiTable = std::move(table);
+}
+
+void zel_TransformRec::AdoptVOI(const zel_TransformRec& other)
+{
+    const auto table = other.voiTable;  // `other` may be this record
+    RecordVOI(other.voiWidth, other.voiLevel);
+    voiTable = table;
+}
+
+bool zel_TransformRec::IsVOIAtOriginals() const
+{
+    return voiWidth == voiWidthOriginal && voiLevel == voiLevelOriginal &&
+           voiTable == voiTableOriginal;
 }
 
 void zel_TransformRec::SetVOIWidthLimits(float minimum, float maximum)

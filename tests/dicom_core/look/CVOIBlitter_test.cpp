@@ -87,6 +87,7 @@ TEST(CVOIBlitter, copies_with_the_record_s_window_and_the_chosen_clipping)
     using Row = std::array<std::uint8_t, 4>;
     EXPECT_EQ(blitter.CopyPixelsTo8Bits(record, 10, 20, &source, &target, all, all), kQvxOK);
     EXPECT_EQ(to, (Row{255, 255, 0, 0}));
+    record.voiLevel = -89;
     EXPECT_EQ(blitter.CopyPixelsTo8Bits(record, &source, &target, all, all), kQvxOK);
     EXPECT_EQ(to, (Row{255, 140, 13, 0})) << "without bounds the former clipping is forgotten";
     EXPECT_EQ(blitter.CopyPixelsTo8Bits(record, 20, 10, &source, &target, all, all),
@@ -94,7 +95,7 @@ TEST(CVOIBlitter, copies_with_the_record_s_window_and_the_chosen_clipping)
     EXPECT_EQ(blitter.CopyPixelsTo8Bits(record, &source, nullptr, all, all), kQvxBadArgument);
     record.voiInfo.pixelFactor = 1000;
     record.voiLevel = -89000;
-    EXPECT_EQ(blitter.CopyPixelsTo8Bits(record, &source, &target, all, all), kQvxOK);
+    EXPECT_EQ(blitter.CopyPixelsTo8Bits(record, 0, 100, &source, &target, all, all), kQvxOK);
     EXPECT_EQ(to, (Row{255, 255, 0, 0})) << "a width far below a step is one step";
 }
 
@@ -153,4 +154,36 @@ TEST(DisplayVOI, limits_are_in_order_and_widths_round_by_their_own_rule)
     record.voiInfo.pixelFactor = 0.5;
     EXPECT_EQ(U_GetDisplayVOIParams(record, &width, &level), kQvxOK);
     EXPECT_EQ(width, 200U) << "in steps of the scale, rounded";
+}
+
+TEST(DisplayVOI, a_window_is_recorded_in_user_values_and_enhanced_before)
+{
+    struct Row {
+        const char* fault;
+        std::int32_t photometric;
+        double factor;
+        bool enhance;
+        std::uint32_t width;
+        std::int32_t level;
+        float userWidth, userLevel;
+    };
+    const Row rows[] = {
+        {"plain", 1, 1, false, 1000, 150, 1000, 50},
+        {"narrowed to 100 to 200", 1, 1, true, 1000, 150, 100, 50},
+        {"steps of the scale", 1, 0.5, true, 1000, 150, 50, 25},
+        {"inverted", 0, 1, false, 10, 4000, 10, 195},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.fault);
+        zel_TransformRec record = Record(row.photometric, 4095, -100, row.factor);
+        record.SetVOIWidthLimits(1, 5000);
+        record.SetVOILevelLimits(-5000, 5000);
+        EXPECT_EQ(U_SetDisplayVOIParams(&record, 100, 200, row.width, row.level, row.enhance),
+                  kQvxOK);
+        EXPECT_EQ(record.voiWidth, row.userWidth);
+        EXPECT_EQ(record.voiLevel, row.userLevel);
+        const zel_TransformRec before = record;
+        EXPECT_EQ(U_SetDisplayVOIParams(&record, 200, 100, 5, 5, true), kQvxBadArgument);
+        EXPECT_EQ(record, before);
+    }
 }

@@ -93,3 +93,37 @@ TEST(WindowSetup, a_window_that_the_user_set_stays)
     EXPECT_EQ(record.voiWidth, 300);
     EXPECT_EQ(record.voiLevel, 40);
 }
+
+TEST(WindowSetup, a_default_table_is_an_original_that_the_user_leaves_and_returns_to)
+{
+    const auto table =
+        std::make_shared<const zelVOITable>(zelVOITable{100, 8, {0, 50, 255, 255}, ""});
+    zelWindowFacts facts = Stated(table->Width(), table->Level());
+    facts.function = zelVOIFunction::Sigmoid;
+    facts.defaultTable = table;
+    zel_TransformRec record = Record(1, 0), sibling = record;
+    zelWindowSetup setup;
+    ASSERT_EQ(SetupWindow(facts, &record, &setup), kQvxOK);
+    ASSERT_EQ(SetupWindow(facts, &sibling, &setup), kQvxOK);
+    EXPECT_EQ(record.voiTable, table);
+    EXPECT_EQ(record.voiFunction, zelVOIFunction::Sigmoid);
+    EXPECT_TRUE(record.IsVoid());
+
+    record.RecordVOI(300, 40);
+    EXPECT_EQ(record.voiTable, nullptr);
+    EXPECT_EQ(record.voiFunction, zelVOIFunction::Sigmoid) << "it belongs to all windows";
+    sibling.AdoptVOI(record);
+    EXPECT_EQ(sibling.voiTable, nullptr);
+    EXPECT_EQ(sibling.voiWidth, 300);
+    record.ResetColors();
+    EXPECT_EQ(record.voiTable, table);
+
+    // Another table of the same span is no original.
+    const auto other = std::make_shared<const zelVOITable>(*table);
+    record.RecordVOITable(other);
+    EXPECT_FALSE(record.IsVOIAtOriginals());
+    sibling.AdoptVOI(record);
+    EXPECT_EQ(sibling.voiTable, other);
+    record.RecordVOITable(nullptr);
+    EXPECT_EQ(record.voiTable, other);
+}
