@@ -201,39 +201,53 @@ QvxStatus LoadWithLook(const FrameRequest& request, dk_Sequence* sequence,
     return U_LoadFrameContentToViewerDoc(sequence, number, document);
 }
 
-int WritePng(const FrameRequest& request)
+// The picture's bytes; empty, with a reason, on failure.
+std::vector<std::uint8_t> MakePng(const FrameRequest& request, std::string* why)
 {
     const LogKeeper log;
     CImporterPlusFactory::InitFactory();
     auto file = std::make_unique<dk_ImageFile>();
     if (const QvxStatus status = file->SetSourceFile(FileRef{request.fPath}, kImportDicom)) {
         QvxReaderPtr reader;
-        std::string why;
-        if (OpenDicomFile(request.fPath, &reader, &why) == kQvxOK)
-            why = StatusText(status);
-        return Failure(request.fPath, why);
+        if (OpenDicomFile(request.fPath, &reader, why) == kQvxOK)
+            *why = StatusText(status);
+        return {};
     }
     dk_Sequence sequence;
     sequence.AddChild(std::move(file));
     const std::int32_t frames = std::max(sequence.GetNumberOfFrames(), 1);
-    if (request.fFrame > static_cast<std::uint32_t>(frames))
-        return Failure(request.fPath, "has " + std::to_string(frames) + " frames");
-    if (request.fTable > static_cast<std::uint32_t>(prefs_GetNumberOfCLUTs()))
-        return Failure(request.fPath,
-                       "--clut: there are " + std::to_string(prefs_GetNumberOfCLUTs()) + " tables");
+    if (request.fFrame > static_cast<std::uint32_t>(frames)) {
+        *why = "has " + std::to_string(frames) + " frames";
+        return {};
+    }
     zel_QTViewerDoc document;
-    if (const QvxStatus status = LoadWithLook(request, &sequence, &document))
-        return Failure(request.fPath, FrameReason(request.fFrame, status,
-                                                  LogKeeper::Reason(request.fPath, status)));
-    if (request.fWindow && !document.IsVOIReady())
-        return Failure(request.fPath, "is in colour and has no window");
+    if (const QvxStatus status = LoadWithLook(request, &sequence, &document)) {
+        *why = FrameReason(request.fFrame, status, LogKeeper::Reason(request.fPath, status));
+        return {};
+    }
+    if (request.fWindow && !document.IsVOIReady()) {
+        *why = "is in colour and has no window";
+        return {};
+    }
     RgbImage image;
-    if (const QvxStatus status = RenderPicture(request, &document, &image))
-        return Failure(request.fPath, FrameReason(request.fFrame, status));
-    const std::vector<std::uint8_t> png = PngOf(image);
+    if (const QvxStatus status = RenderPicture(request, &document, &image)) {
+        *why = FrameReason(request.fFrame, status);
+        return {};
+    }
+    std::vector<std::uint8_t> png = PngOf(image);
     if (png.empty())
-        return Failure(request.fPath, "can't be made a PNG");
-    return WriteOut(request, png);
+        *why = "can't be made a PNG";
+    return png;
+}
+
+int WritePng(const FrameRequest& request)
+{
+    std::string why;
+    const int tables = prefs_GetNumberOfCLUTs();
+    if (request.fTable > static_cast<std::uint32_t>(tables))
+        return Failure(request.fPath, "--clut: there are " + std::to_string(tables) + " tables");
+    const std::vector<std::uint8_t> png = MakePng(request, &why);
+    return png.empty() ? Failure(request.fPath, why) : WriteOut(request, png);
 }
 
 // What is wrong with the words, or nothing.

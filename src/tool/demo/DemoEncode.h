@@ -1,5 +1,5 @@
-// Compressed frames of the demo. Each is written by another library than the one that reads it
-// back in the viewer where that was to be had cheaply; lossless JPEG has an encoder of its own.
+// Compressed frames of the demo, by the libraries that the toolkit decodes with; RLE and lossless
+// JPEG have encoders of their own.
 #pragma once
 #include "util/StatusCodes.h"
 
