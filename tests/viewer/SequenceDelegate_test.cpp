@@ -26,6 +26,7 @@ std::string GrayFile(std::uint16_t rows, std::uint16_t columns, int frames)
 }
 
 struct Files {
+    Files() { CImporterPlusFactory::InitFactory(); }
     std::string Add(const std::string& name, const std::string& bytes)
     {
         const std::string path = folder.WriteFile(name, bytes);
