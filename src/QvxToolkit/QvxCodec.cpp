@@ -4,7 +4,8 @@
 
 bool QvxCodecScaleIsPerFrame(const QvxFrameRecord& record)
 {
-    return record.IsGray() && !record.fModality && (record.fForm != QvxSampleForm::Integer || record.fBitsStored > 16);
+    return record.IsGray() && !record.fModality &&
+           (record.fForm != QvxSampleForm::Integer || record.fBitsStored > 16);
 }
 
 std::uint32_t QvxCodecPixelFormat(const QvxFrameRecord& record)

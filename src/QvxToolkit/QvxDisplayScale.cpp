@@ -29,8 +29,8 @@ public:
     {
         for (std::size_t i = 0; i < samples.fCount; ++i) {
             const auto value = static_cast<double>(samples[i]);
-            const bool padding = record.fHasPadding && value >= record.fPaddingLow &&
-                                 value <= record.fPaddingHigh;
+            const bool padding =
+                record.fHasPadding && value >= record.fPaddingLow && value <= record.fPaddingHigh;
             if (!std::isfinite(value) || (padding && !withPadding))
                 continue;
             fLow = fAny ? std::min(fLow, value) : value;

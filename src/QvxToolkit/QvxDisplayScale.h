@@ -15,7 +15,7 @@ struct QvxDisplayScale {
     int fDrop = 0;
     std::int64_t fBase = 0, fTimes = 1;
     std::int32_t fMaximum = 0;
-    QvxQuantum fQuantum;  // of float pixels: `stored` is the quantum then
+    QvxQuantum fQuantum;                     // of float pixels: `stored` is the quantum then
     const QvxLookupTable* fTable = nullptr;  // the record's; its entry is `stored` then
 };
 

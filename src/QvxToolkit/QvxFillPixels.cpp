@@ -89,7 +89,8 @@ void GrayRows<T>::Convert(std::size_t first, std::size_t count, std::uint16_t* r
     } else if (fScale.fTable) {
         for (std::size_t i = 0; i < count; ++i)
             row[i] = static_cast<std::uint16_t>(
-                fScale.fBase + fScale.fTimes * fScale.fTable->Of(std::int64_t{fSamples[first + i]}));
+                fScale.fBase +
+                fScale.fTimes * fScale.fTable->Of(std::int64_t{fSamples[first + i]}));
     } else if (sizeof(T) <= 2 && fScale.fDrop == 0 && !fRecord.fEncapsulated) {
         // All sums are right in 16 bits, since the display value fits them.
         const auto base = static_cast<std::uint16_t>(fScale.fBase);

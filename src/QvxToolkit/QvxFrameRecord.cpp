@@ -200,8 +200,9 @@ void FrameGate::ReadPolarity()
     if (!fRecord.IsGray() || fRecord.fPhotometric == QvxPhotometric::Palette)
         return;
     const std::string shape = QvxHeaderWord(fReader, kTagPresentationShape);
-    fRecord.fInverted = shape == "INVERSE" || (fRecord.fPhotometric == QvxPhotometric::Monochrome1 &&
-                                               shape != "IDENTITY");
+    fRecord.fInverted =
+        shape == "INVERSE" ||
+        (fRecord.fPhotometric == QvxPhotometric::Monochrome1 && shape != "IDENTITY");
 }
 
 // Integers are written as the stored values are, but often under the other VR: by the width of a

@@ -71,7 +71,7 @@ struct QvxFrameRecord {
 
     // From stored to user values. Of an enhanced image: those of its first frame, see
     // QvxRecordOfFrame.
-    double fSlope = 1, fIntercept = 0;  // (0028,1053), (0028,1052)
+    double fSlope = 1, fIntercept = 0;                // (0028,1053), (0028,1052)
     std::shared_ptr<const QvxLookupTable> fModality;  // (0028,3000), in place of both; or null
     bool fFramesDiffer = false;                       // in slope or intercept
     std::shared_ptr<const QvxFrameGroups> fGroups;    // null when there are none

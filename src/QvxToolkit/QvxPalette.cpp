@@ -105,7 +105,8 @@ Table ReadTable(QvxParserRec* reader, const QvxFrameRecord& record, std::size_t 
     if (data.empty()) {
         const Words segments = QvxHeaderWords(reader, TagOf(0x1221, color), record.fByteOrder);
         const bool byteSegments = descriptor[2] <= 8;
-        data = SegmentReader(byteSegments ? QvxSplitWords(segments) : segments, byteSegments).Expand();
+        data =
+            SegmentReader(byteSegments ? QvxSplitWords(segments) : segments, byteSegments).Expand();
     } else if (bytes) {
         data = QvxSplitWords(data);
     }

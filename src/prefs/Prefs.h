@@ -72,8 +72,8 @@ inline constexpr std::string_view kPrefsKeyRecentDocuments = "ZELRecentDocuments
 
 [[nodiscard]] int prefs_ToolScope();  // 0 or 1
 void prefs_Set_ToolScope(int scope);
-// A window is cut to the values that a frame really has. Off: it is shown by the standard's formula,
-// whatever the frame's range.
+// A window is cut to the values that a frame really has. Off: it is shown by the standard's
+// formula, whatever the frame's range.
 [[nodiscard]] bool prefs_EnhanceVOIContrast();
 void prefs_Set_EnhanceVOIContrast(bool on);
 [[nodiscard]] bool prefs_LimitAutoFit();  // kept for older settings; nothing reads it

@@ -228,11 +228,20 @@ TEST(QvxCodec, padding_of_floats_and_deep_integers_does_not_stretch_the_scale)
     const ImageHead deep{.columns = 4, .allocated = 32, .stored = 32, .highBit = 31, .isSigned = 1};
     const Row rows[] = {
         {"float", floats("FL", 0x0122, {-1e30, 1, 2, 3}), 1, {0, 0, 1, 2}, 0, 2},
-        {"double", floats("FD", 0x0123, {1e300, 0, 0.5, 1}), 1 / 65535.0, {65535, 0, 32768, 65535},
-         0, 65535},
-        {"32 bits", ImageFile(deep).Element(0x0028, 0x0120, "SL", INT32_MIN)
-                        .NativePixels(Hex("00000080 0A000000 0B000000 0C000000")),
-         1, {0, 0, 1, 2}, 0, 2},
+        {"double",
+         floats("FD", 0x0123, {1e300, 0, 0.5, 1}),
+         1 / 65535.0,
+         {65535, 0, 32768, 65535},
+         0,
+         65535},
+        {"32 bits",
+         ImageFile(deep)
+             .Element(0x0028, 0x0120, "SL", INT32_MIN)
+             .NativePixels(Hex("00000080 0A000000 0B000000 0C000000")),
+         1,
+         {0, 0, 1, 2},
+         0,
+         2},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.fault);

@@ -22,7 +22,8 @@ std::string Bytes(const Words& words)
 
 Item Table(const Words& descriptor, const Words& entries, const char* explanation = "")
 {
-    return Item().Element(0x0028, 0x3002, "US", descriptor)
+    return Item()
+        .Element(0x0028, 0x3002, "US", descriptor)
         .Element(0x0028, 0x3003, "LO", explanation)
         .Element(0x0028, 0x3006, "OW", Bytes(entries));
 }
@@ -30,8 +31,11 @@ Item Table(const Words& descriptor, const Words& entries, const char* explanatio
 Item Window(const char* center, const char* width, const char* function = "",
             const char* explanation = "")
 {
-    return Item().Element(0x0028, 0x1050, "DS", center).Element(0x0028, 0x1051, "DS", width)
-        .Element(0x0028, 0x1055, "LO", explanation).Element(0x0028, 0x1056, "CS", function);
+    return Item()
+        .Element(0x0028, 0x1050, "DS", center)
+        .Element(0x0028, 0x1051, "DS", width)
+        .Element(0x0028, 0x1055, "LO", explanation)
+        .Element(0x0028, 0x1056, "CS", function);
 }
 
 // Items of functional groups, each with one item of `tag` in it.
@@ -146,10 +150,10 @@ TEST(QvxVOI, one_inversion_at_most)
         const char *photometric, *shape;
         bool inverted;
     } rows[] = {
-        {"MONOCHROME1", "", true},         {"MONOCHROME2", "", false},
-        {"MONOCHROME1", "INVERSE", true},  {"MONOCHROME2", "INVERSE", true},
+        {"MONOCHROME1", "", true},          {"MONOCHROME2", "", false},
+        {"MONOCHROME1", "INVERSE", true},   {"MONOCHROME2", "INVERSE", true},
         {"MONOCHROME1", "IDENTITY", false}, {"MONOCHROME2", "IDENTITY", false},
-        {"MONOCHROME1", "LIN OD", true},   {"PALETTE COLOR", "INVERSE", false},
+        {"MONOCHROME1", "LIN OD", true},    {"PALETTE COLOR", "INVERSE", false},
     };
     for (const auto& row : rows) {
         ToolkitFile file(ImageFile({.photometric = row.photometric})
@@ -170,10 +174,30 @@ TEST(QvxVOI, modality_table_makes_the_user_values)
         std::uint32_t format;
         std::vector<int> display;  // of the stored values -3, 0, 9 or as unsigned
     } rows[] = {
-        {"clamped at both ends", Table({4, 0, 16}, {5, 6, 7, 8}), 0, true, kPixelFormatGray16, {8, 5, 8}},
-        {"first value signed as pixels are", Table({3, 65534, 10}, {1, 2, 1023}), 1, true, kPixelFormatGray16, {1, 1023, 1023}},
-        {"bytes two by two", Table({4, 0, 8}, {0x0605, 0x0807}), 0, true, kPixelFormatGray16, {8, 5, 8}},
-        {"no entries: the rescale holds", Table({4, 0, 16}, {}), 1, false, kPixelFormatGray16, {32765, 32768, 32777}},
+        {"clamped at both ends",
+         Table({4, 0, 16}, {5, 6, 7, 8}),
+         0,
+         true,
+         kPixelFormatGray16,
+         {8, 5, 8}},
+        {"first value signed as pixels are",
+         Table({3, 65534, 10}, {1, 2, 1023}),
+         1,
+         true,
+         kPixelFormatGray16,
+         {1, 1023, 1023}},
+        {"bytes two by two",
+         Table({4, 0, 8}, {0x0605, 0x0807}),
+         0,
+         true,
+         kPixelFormatGray16,
+         {8, 5, 8}},
+        {"no entries: the rescale holds",
+         Table({4, 0, 16}, {}),
+         1,
+         false,
+         kPixelFormatGray16,
+         {32765, 32768, 32777}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
@@ -190,8 +214,9 @@ TEST(QvxVOI, modality_table_makes_the_user_values)
         std::array<std::uint8_t, 6> bytes{};
         const PixMap map{bytes.data(), 6, {0, 0, 1, 3}, row.format, 16, 1, 16, false};
         std::int32_t least = 0, most = 0;
-        ASSERT_EQ(QvxCodecFillPixels(file.reader.get(), file.record, file.frame, map, &least, &most),
-                  kQvxOK);
+        ASSERT_EQ(
+            QvxCodecFillPixels(file.reader.get(), file.record, file.frame, map, &least, &most),
+            kQvxOK);
         for (std::size_t i = 0; i < 3; ++i)
             EXPECT_EQ(bytes[2 * i] << 8 | bytes[2 * i + 1], row.display[i]) << i;
     }
@@ -199,7 +224,9 @@ TEST(QvxVOI, modality_table_makes_the_user_values)
 
 TEST(QvxVOI, slope_of_the_frame_before_the_shared_before_the_top)
 {
-    const auto slope = [](const char* value) { return Item().Element(0x0028, 0x1053, "DS", value); };
+    const auto slope = [](const char* value) {
+        return Item().Element(0x0028, 0x1053, "DS", value);
+    };
     struct Row {
         const char* fault;
         Change head;
@@ -207,14 +234,40 @@ TEST(QvxVOI, slope_of_the_frame_before_the_shared_before_the_top)
         std::vector<double> slopes;
     };
     const Row rows[] = {
-        {"each its own", [&](DicomBuilder& f) { f.Sequence(0x5200, 0x9230, Groups(0x9145, {slope("2"), slope("4")})); }, true, {2, 4}},
-        {"one is silent", [&](DicomBuilder& f) {
-             f.Element(0x0028, 0x1053, "DS", "9").Sequence(0x5200, 0x9229, Groups(0x9145, {slope("3")}))
-              .Sequence(0x5200, 0x9230, Groups(0x9145, {slope("2"), Item()})); }, true, {2, 3}},
-        {"fewer items than frames", [&](DicomBuilder& f) { f.Element(0x0028, 0x1053, "DS", "9").Sequence(0x5200, 0x9230, Groups(0x9145, {slope("2")})); }, false, {2, 2}},
-        {"the top alone", [&](DicomBuilder& f) { f.Element(0x0028, 0x1053, "DS", "9").Sequence(0x5200, 0x9230, {Item(), Item()}); }, false, {9, 9}},
-        {"tables of the top are not for them", [&](DicomBuilder& f) {
-             f.Sequence(0x0028, 0x3000, {Table({4, 0, 8}, kFour)}).Sequence(0x5200, 0x9229, Groups(0x9145, {slope("3")})); }, false, {3, 3}},
+        {"each its own",
+         [&](DicomBuilder& f) {
+             f.Sequence(0x5200, 0x9230, Groups(0x9145, {slope("2"), slope("4")}));
+         },
+         true,
+         {2, 4}},
+        {"one is silent",
+         [&](DicomBuilder& f) {
+             f.Element(0x0028, 0x1053, "DS", "9")
+                 .Sequence(0x5200, 0x9229, Groups(0x9145, {slope("3")}))
+                 .Sequence(0x5200, 0x9230, Groups(0x9145, {slope("2"), Item()}));
+         },
+         true,
+         {2, 3}},
+        {"fewer items than frames",
+         [&](DicomBuilder& f) {
+             f.Element(0x0028, 0x1053, "DS", "9")
+                 .Sequence(0x5200, 0x9230, Groups(0x9145, {slope("2")}));
+         },
+         false,
+         {2, 2}},
+        {"the top alone",
+         [&](DicomBuilder& f) {
+             f.Element(0x0028, 0x1053, "DS", "9").Sequence(0x5200, 0x9230, {Item(), Item()});
+         },
+         false,
+         {9, 9}},
+        {"tables of the top are not for them",
+         [&](DicomBuilder& f) {
+             f.Sequence(0x0028, 0x3000, {Table({4, 0, 8}, kFour)})
+                 .Sequence(0x5200, 0x9229, Groups(0x9145, {slope("3")}));
+         },
+         false,
+         {3, 3}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.fault);

@@ -1,13 +1,12 @@
 // The module "dcmtk": see QvxJPEGModule.h.
+#include "QvxToolkit/QvxJPEGModule.h"
+#include <cstdio>
 #include <dcmtk/config/osconfig.h>
 #include <dcmtk/dcmjpeg/djcparam.h>
 #include <dcmtk/dcmjpeg/djdijg12.h>
 #include <dcmtk/dcmjpeg/djdijg16.h>
 #include <dcmtk/dcmjpeg/djdijg8.h>
 #include <dcmtk/oflog/oflog.h>
-
-#include "QvxToolkit/QvxJPEGModule.h"
-#include <cstdio>
 #include <exception>
 #include <limits>
 

@@ -83,8 +83,7 @@ void SpanSamples(T* samples, std::size_t count, std::uint32_t most)
 // The library spreads samples over the full range of their type; back to the stream's own bits.
 void Run::SpanBits() const
 {
-    const std::size_t count =
-        std::size_t{fRequest.fRows} * fRequest.fColumns * fRequest.fSamples;
+    const std::size_t count = std::size_t{fRequest.fRows} * fRequest.fColumns * fRequest.fSamples;
     const std::uint32_t most = (1u << fPrecision) - 1;
     if (fPrecision < 8)
         SpanSamples(static_cast<std::uint8_t*>(fRoom), count, most);

@@ -2,7 +2,6 @@
 #include "QvxToolkit/modules/VideoLearner.h"
 #include "QvxToolkit/modules/VideoPixels.h"
 #include "QvxToolkit/modules/VideoRevisit.h"
-
 #include <new>
 
 extern "C" {

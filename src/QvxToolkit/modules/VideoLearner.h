@@ -3,7 +3,6 @@
 #pragma once
 #include "QvxToolkit/modules/VideoDecoder.h"
 #include "QvxToolkit/modules/VideoDemuxer.h"
-
 #include <optional>
 #include <vector>
 

@@ -1,7 +1,6 @@
 // Decoded pictures as samples of a frame: RGB or gray. Internal.
 #pragma once
 #include "QvxToolkit/modules/VideoParts.h"
-
 #include <cstdint>
 #include <vector>
 

@@ -13,7 +13,8 @@ struct zelWindowFacts {
     bool hasDefault = false;          // the image states a window (PS3.3 C.11.2.1.2)
     float defaultWidth = 0, defaultLevel = 0;
     zelVOIFunction function = zelVOIFunction::Linear;  // stated for windows, also without a default
-    std::shared_ptr<const zelVOITable> defaultTable = nullptr;  // of which the default is the span; or null
+    std::shared_ptr<const zelVOITable> defaultTable =
+        nullptr;  // of which the default is the span; or null
 };
 
 // What came out, in display values. What it means for the user is in the record.

@@ -33,10 +33,10 @@ zelDPIFBytes PackDPIFRecord(const zelDPIFRecord& record)
     const zelVOIBlitterInfo& info = record.voiInfo;
     const zelDisplayVOILimits& limits = record.limits;
     const std::array<std::uint32_t, kLongs> longs = {
-        Bits(info.photometric),   Bits(info.pixelExtra),     Bits(info.pixelRange),
-        info.pixelFormat,         Bits(info.pixelShift),     Bits(record.pixelMinimum),
-        Bits(record.pixelMaximum), Bits(record.unread),      Bits(record.reserved),
-        limits.minWidth,          limits.maxWidth,           Bits(limits.minLevel),
+        Bits(info.photometric),    Bits(info.pixelExtra), Bits(info.pixelRange),
+        info.pixelFormat,          Bits(info.pixelShift), Bits(record.pixelMinimum),
+        Bits(record.pixelMaximum), Bits(record.unread),   Bits(record.reserved),
+        limits.minWidth,           limits.maxWidth,       Bits(limits.minLevel),
         Bits(limits.maxLevel)};
     const std::array<double, 2> scale = {info.pixelFactor, info.pixelOffset};
     static_assert(sizeof longs == kDPIFFixedSize);

@@ -2,9 +2,9 @@
 // (PS3.3 C.11.2.1) in plain double arithmetic over user values.
 #include "dicom_core/look/VOICurve.h"
 
-#include "QvxToolkit/ToolkitFixture.h"
 #include "dicom_core/look/CVOIBlitter.h"
 
+#include "QvxToolkit/ToolkitFixture.h"
 #include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
@@ -39,8 +39,9 @@ struct Shown {
         EXPECT_EQ(QvxCodecFillPixels(file.reader.get(), own, file.frame, source, &least, &most),
                   kQvxOK);
         const QvxPixelInfo info = QvxCodecPixelInfo(own, &file.frame);
-        record.voiInfo = {info.fPhotometric, 0, info.fPixelRange, source.pixelFormat,
-                          info.fPixelShift, info.fFactor, info.fOffset};
+        record.voiInfo = {
+            info.fPhotometric, 0,           info.fPixelRange, source.pixelFormat, info.fPixelShift,
+            info.fFactor,      info.fOffset};
         record.SetVOIWidthLimits(static_cast<float>(info.fFactor), 1e12F);
         record.SetVOILevelLimits(-1e12F, 1e12F);
     }
@@ -50,8 +51,9 @@ struct Shown {
         PixMap target{bytes.data(), source.rowBytes / 2, source.bounds, kPixelFormatGray8, 8, 1, 8,
                       false};
         const Rect all = source.bounds;
-        EXPECT_EQ(bounded ? blitter.CopyPixelsTo8Bits(record, least, most, &source, &target, all, all)
-                          : blitter.CopyPixelsTo8Bits(record, &source, &target, all, all),
+        EXPECT_EQ(bounded
+                      ? blitter.CopyPixelsTo8Bits(record, least, most, &source, &target, all, all)
+                      : blitter.CopyPixelsTo8Bits(record, &source, &target, all, all),
                   kQvxOK);
         std::vector<int> grays;
         for (const std::uint8_t byte : bytes)
@@ -130,8 +132,8 @@ TEST(VOICurve, without_bounds_grays_are_the_standard_s)
                             .Element(0x0028, 0x1052, "DS", row.intercept)
                             .Element(0x0028, 0x1053, "DS", row.slope)
                             .NativePixels(Ramp(0)));
-            for (const auto function : {zelVOIFunction::Linear, zelVOIFunction::LinearExact,
-                                        zelVOIFunction::Sigmoid}) {
+            for (const auto function :
+                 {zelVOIFunction::Linear, zelVOIFunction::LinearExact, zelVOIFunction::Sigmoid}) {
                 SCOPED_TRACE(std::string(photometric) + ' ' + row.slope + ' ' +
                              std::to_string(row.width) + ' ' +
                              std::to_string(static_cast<int>(function)));
@@ -240,9 +242,9 @@ TEST(VOICurve, frames_of_an_enhanced_image_have_their_own_slopes)
 {
     std::vector<Item> groups;
     for (const char* slope : {"1", "2.5"})
-        groups.push_back(Item().Sequence(0x0028, 0x9145,
-                                         {Item().Element(0x0028, 0x1052, "DS", "-100").Element(
-                                             0x0028, 0x1053, "DS", slope)}));
+        groups.push_back(Item().Sequence(
+            0x0028, 0x9145,
+            {Item().Element(0x0028, 0x1052, "DS", "-100").Element(0x0028, 0x1053, "DS", slope)}));
     ImageHead head = RampHead("MONOCHROME2");
     head.frames = "2";
     const DicomBuilder builder =
@@ -262,7 +264,10 @@ TEST(VOICurve, bytes_are_windowed_by_their_colour_table)
     for (int i = 0; i < 256; ++i)
         pixels.push_back(static_cast<char>(i));
     for (const char* photometric : {"MONOCHROME1", "MONOCHROME2"}) {
-        Shown shown(ImageFile({.columns = 256, .allocated = 8, .stored = 8, .highBit = 7,
+        Shown shown(ImageFile({.columns = 256,
+                               .allocated = 8,
+                               .stored = 8,
+                               .highBit = 7,
                                .photometric = photometric})
                         .NativePixels(pixels));
         shown.record.RecordVOI(100, 90);

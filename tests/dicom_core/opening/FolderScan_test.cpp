@@ -69,8 +69,11 @@ TEST_F(FolderScan, tells_of_everything_that_it_does_not_take)
     folder.WriteFile("report", SmallImage({.modality = "SR"}));
     folder.WriteFile("nothing", "");
     folder.WriteFile("flat", DicomBuilder().Meta(kUidExplicitLittle).CommonHeader().Bytes());
-    folder.WriteFile("floats", DicomBuilder().Meta(kUidExplicitLittle).CommonHeader()
-                                   .Element(0x7FE0, 0x0008, "OF", std::vector<double>{1}).Bytes());
+    folder.WriteFile("floats", DicomBuilder()
+                                   .Meta(kUidExplicitLittle)
+                                   .CommonHeader()
+                                   .Element(0x7FE0, 0x0008, "OF", std::vector<double>{1})
+                                   .Bytes());
     TempFolder elsewhere;
     elsewhere.WriteFile("x", image);
     fs::create_symlink("sub/c", folder.Path("in"));
@@ -80,8 +83,8 @@ TEST_F(FolderScan, tells_of_everything_that_it_does_not_take)
     fs::create_symlink("/dev/zero", folder.Path("zero"));
     mkfifo(folder.Path("pipe").c_str(), 0600);
 
-    const std::vector<std::string> taken{"a",         "b",       "floats", "folder.dcm/g", "in", "new\nline",
-                                         "pr\xE9nom", "sub/a/d", "sub/c",        "z"};
+    const std::vector<std::string> taken{"a",         "b",         "floats",  "folder.dcm/g", "in",
+                                         "new\nline", "pr\xE9nom", "sub/a/d", "sub/c",        "z"};
     EXPECT_EQ(Scan(true), taken);
     EXPECT_EQ(status, kQvxOK);
     const std::map<std::string, std::string> reasons{
