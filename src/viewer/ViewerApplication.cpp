@@ -10,6 +10,7 @@
 #include "viewer/ViewerWindow.h"
 #include "viewer/ViewerWords.h"
 
+#include "qpix/CImporterFactory.h"
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
@@ -55,6 +56,7 @@ ViewerApplication::~ViewerApplication()
 
 void ViewerApplication::start(std::vector<std::string> paths)
 {
+    CImporterPlusFactory::InitFactory();
     _baseBuffer = std::make_unique<zel_ImageBuffer>();
     _baseBuffer->SetIOBufferSize(kBaseBufferIOBytes);
     gAppBaseBuffer = _baseBuffer.get();
