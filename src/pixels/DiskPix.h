@@ -60,8 +60,8 @@ void DiskPixCloseFileRef(DiskPix* store);
                                              const std::uint8_t* memory,
                                              std::int32_t memoryRowBytes);
 // With a buffer that several rows fit in, a rectangle of the image's whole height moves in groups
-// of rows. A rectangle of whole rows that lie in memory as in the file needs none and moves at
-// once.
+// of rows, small enough for the processor's caches however large the buffer is. Whole rows that lie
+// in memory as in the file need no buffer and move at once.
 [[nodiscard]] QvxStatus DiskPixGetTilePixelsEx(DiskPix* store, const Rect& rect,
                                                std::uint8_t* memory, std::int32_t memoryRowBytes,
                                                std::span<std::uint8_t> buffer);

@@ -3,6 +3,7 @@
 #include "pixels/DiskPixFile.h"
 #include "pixels/Guarded.h"
 #include "pixels/PixelFormat.h"
+#include "pixels/RGBRows.h"
 
 #include <algorithm>
 #include <cstring>
@@ -11,7 +12,7 @@ namespace {
 
 constexpr std::uint32_t kFormatRGB24 = 24;
 // Groups of rows no larger than this stay in the processor's caches while they are moved on.
-constexpr std::size_t kGroupBytes = std::size_t{256} << 10;
+constexpr std::size_t kGroupBytes = std::size_t{128} << 10;
 
 // The run of bytes that a rectangle has in each row of the file.
 struct TileRun {
@@ -41,15 +42,21 @@ QvxStatus FindRun(const DiskPix* store, const Rect& rect, const void* memory,
 
 bool IsEmptyRun(const TileRun& run) { return run.fBytes == 0 || run.fRows == 0; }
 
-// The rows of the memory have room for those of the file, padding included, and the same step.
+// Whole rows, which have the same step in memory as in the file.
 bool LiesAlike(const DiskPix& store, const TileRun& run, std::int32_t memoryRowBytes)
 {
     return run.fWholeRows && memoryRowBytes == store.fRowBytes;
 }
 
+// Rows without padding: what would be read there may be other pixels of a larger image in memory.
+bool HasNoPadding(const DiskPix& store, const TileRun& run)
+{
+    return run.fBytes == static_cast<std::size_t>(store.fRowBytes);
+}
+
+// What lies behind the last row may not be the memory's own.
 std::size_t BytesAlike(const DiskPix& store, const TileRun& run)
 {
-    // The last row's padding may not be the memory's own.
     return static_cast<std::size_t>(store.fRowBytes) * static_cast<std::size_t>(run.fRows - 1) +
            run.fBytes;
 }
@@ -60,25 +67,6 @@ std::int32_t RowsOfGroup(const DiskPix& store, std::span<std::uint8_t> buffer, s
     const std::size_t fit =
         std::min(buffer.size() / rowBytes, std::max(kGroupBytes / rowBytes, std::size_t{2}));
     return static_cast<std::int32_t>(std::min<std::size_t>(fit, static_cast<std::size_t>(rows)));
-}
-
-void SpreadRow(const std::uint8_t* rgb, std::uint8_t* argb, std::size_t pixels)
-{
-    for (std::size_t i = 0; i < pixels; ++i) {
-        argb[4 * i] = 0;
-        argb[4 * i + 1] = rgb[3 * i];
-        argb[4 * i + 2] = rgb[3 * i + 1];
-        argb[4 * i + 3] = rgb[3 * i + 2];
-    }
-}
-
-void PackRow(const std::uint8_t* argb, std::uint8_t* rgb, std::size_t pixels)
-{
-    for (std::size_t i = 0; i < pixels; ++i) {
-        rgb[3 * i] = argb[4 * i + 1];
-        rgb[3 * i + 1] = argb[4 * i + 2];
-        rgb[3 * i + 2] = argb[4 * i + 3];
-    }
 }
 
 // Rows by groups of whole rows of the file, or one by one where the rectangle is a part of them.
@@ -144,7 +132,7 @@ QvxStatus DiskPixGetTilePixelsEx(DiskPix* store, const Rect& rect, std::uint8_t*
         return status;
     if (IsEmptyRun(run))
         return kQvxOK;
-    if (LiesAlike(*store, run, memoryRowBytes))
+    if (LiesAlike(*store, run, memoryRowBytes) && HasNoPadding(*store, run))
         return ReadAt(store->fFile, run.fFirst, memory, BytesAlike(*store, run));
     const std::int32_t group = RowsOfGroup(*store, buffer, run.fRows);
     if (run.fRows != store->fHeight || group < 2)
@@ -212,8 +200,8 @@ QvxStatus DiskPixGetTilePixelsRGBtoARGB(DiskPix* store, const Rect& rect, std::u
                        groups.fBuffer, bytes))
             return status;
         for (std::int32_t i = 0; i < rows; ++i)
-            SpreadRow(groups.fBuffer + static_cast<std::size_t>(i) * groups.fRowStep,
-                      memory + std::ptrdiff_t{row + i} * memoryRowBytes, run.fBytes / 3);
+            SpreadRGBRow(groups.fBuffer + static_cast<std::size_t>(i) * groups.fRowStep,
+                         memory + std::ptrdiff_t{row + i} * memoryRowBytes, run.fBytes / 3);
     }
     return kQvxOK;
 }
@@ -232,7 +220,7 @@ QvxStatus DiskPixSetTilePixelsARGBtoRGB(DiskPix* store, const Rect& rect,
         const std::int32_t rows = std::min(groups.fRows, run.fRows - row);
         for (std::int32_t i = 0; i < rows; ++i) {
             std::uint8_t* to = groups.fBuffer + static_cast<std::size_t>(i) * groups.fRowStep;
-            PackRow(memory + std::ptrdiff_t{row + i} * memoryRowBytes, to, run.fBytes / 3);
+            PackARGBRow(memory + std::ptrdiff_t{row + i} * memoryRowBytes, to, run.fBytes / 3);
             std::memset(to + run.fBytes, 0, groups.fRowStep - run.fBytes);
         }
         const std::size_t bytes =

@@ -2,7 +2,7 @@
 
 #include "pixels/Guarded.h"
 #include "pixels/PaintCopy.h"
-#include "pixels/ScaleKernel.h"
+#include "pixels/ScaledCopy.h"
 #include "pixels/TargetRows.h"
 
 #include <algorithm>
@@ -13,11 +13,7 @@
 
 namespace {
 
-struct End {
-    PixView view;
-    PixelLayout layout;
-    Rect rect;
-};
+using End = CopyEnd;
 
 // The samples that a copy works on, and whether means of them make sense.
 struct Plan {
@@ -118,61 +114,6 @@ void CopyNearest(const Plan& plan, const End& source, const End& target, const R
     }
 }
 
-// --- scaling -------------------------------------------------------------------------------------
-
-// The samples of the whole source rectangle, as they stand or in a block of their own.
-class SampleBlock {
-public:
-    SampleBlock(const Plan& plan, const End& source)
-    {
-        const int width = WidthOf(source.rect), height = HeightOf(source.rect);
-        SourceRows rows(source.view, source.layout, source.rect, plan.kind,
-                        plan.mapped ? &plan.map : nullptr);
-        fRowBytes = source.view.map.rowBytes;
-        fSamples = rows.Direct(0);
-        if (fSamples)
-            return;
-        fRowBytes = std::ptrdiff_t{width} * SampleBytes(plan.kind);
-        fOwned = std::make_unique_for_overwrite<std::uint8_t[]>(
-            static_cast<std::size_t>(fRowBytes) * static_cast<std::size_t>(height));
-        for (int row = 0; row < height; ++row)
-            rows.Load(row, 0, width, fOwned.get() + row * fRowBytes);
-        fSamples = fOwned.get();
-    }
-    [[nodiscard]] const std::uint8_t* Samples() const { return fSamples; }
-    [[nodiscard]] std::ptrdiff_t RowBytes() const { return fRowBytes; }
-
-private:
-    std::unique_ptr<std::uint8_t[]> fOwned;
-    const std::uint8_t* fSamples = nullptr;
-    std::ptrdiff_t fRowBytes = 0;
-};
-
-void CopyScaled(const Plan& plan, const SampleBlock& block, const End& source, const End& target,
-                const Rect& window, CopyMode mode)
-{
-    ScaleJob job;
-    job.sample = plan.kind == SampleKind::ARGB     ? ScaleSample::ARGB8
-                 : plan.kind == SampleKind::Gray16 ? ScaleSample::Gray16
-                                                   : ScaleSample::Gray8;
-    job.source = block.Samples();
-    job.sourceRowBytes = block.RowBytes();
-    job.sourceWidth = WidthOf(source.rect);
-    job.sourceHeight = HeightOf(source.rect);
-    job.targetWidth = WidthOf(target.rect);
-    job.targetHeight = HeightOf(target.rect);
-    job.window = RectToLRect(window);
-    OffsetLRect(&job.window, -target.rect.left, -target.rect.top);
-    const std::ptrdiff_t rowBytes = std::ptrdiff_t{WidthOf(window)} * SampleBytes(plan.kind);
-    const int height = HeightOf(window);
-    const auto samples = std::make_unique_for_overwrite<std::uint8_t[]>(
-        static_cast<std::size_t>(rowBytes) * static_cast<std::size_t>(height));
-    ScaleSamples(job, samples.get(), rowBytes);
-    TargetRows out(target.view, target.layout, window, mode);
-    for (int row = 0; row < height; ++row)
-        out.Put(row, plan.kind, samples.get() + row * rowBytes);
-}
-
 void CopyWindows(const End& source, const End& target, CopyMode mode,
                  const std::vector<Rect>& windows)
 {
@@ -189,9 +130,8 @@ void CopyWindows(const End& source, const End& target, CopyMode mode,
             copy(plan, source, target, window, mode);
         return;
     }
-    const SampleBlock block(plan, source);
     for (const Rect& window : windows)
-        CopyScaled(plan, block, source, target, window, mode);
+        CopyScaled(source, target, window, plan.kind, plan.mapped ? &plan.map : nullptr, mode);
 }
 
 // --- what is asked -------------------------------------------------------------------------------

@@ -7,7 +7,8 @@
 //             the target is written
 //   clip      null for no further limit
 // Equal sizes of one format and table give the same bits. Other sizes average when they shrink and
-// interpolate when they grow: gray on its own values, all else as colours. Only where indexes of a
+// interpolate when they grow: gray on its own values, all else as colours, which come out opaque.
+// Large pictures are scaled by several threads, with the same result. Only where indexes of a
 // colour table go into a colour table the nearest pixel is taken, as a mean of indexes is nothing.
 // `Paint` sets a target pixel when any source pixel that falls on it is black, so that thin lines
 // stay. The two maps may share memory.

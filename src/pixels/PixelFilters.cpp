@@ -1,6 +1,7 @@
 #include "pixels/PixelFilters.h"
 
 #include "pixels/COffscreenUtils.h"
+#include "pixels/ColorMatch.h"
 #include "pixels/Guarded.h"
 #include "pixels/PixelFormat.h"
 #include "util/ByteOrder.h"
@@ -8,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstring>
 #include <utility>
 
 namespace {
@@ -41,6 +41,27 @@ private:
     double fMost, fMiddle, fShift, fSlope;
 };
 
+bool IsKnown(const FilterParameters& parameters)
+{
+    return static_cast<std::uint32_t>(parameters.Get(kFilterWhat)) == kFilterBrightnessContrast;
+}
+
+bool IsNeutral(const FilterParameters& parameters)
+{
+    return parameters.Get(kFilterBrightness) == 0 && parameters.Get(kFilterContrast) == 0;
+}
+
+using ByteTable = std::array<std::uint8_t, 256>;
+
+ByteTable TableOfBytes(const FilterParameters& parameters)
+{
+    const BrightnessContrast line(parameters, 255);
+    ByteTable table{};
+    for (std::size_t i = 0; i < table.size(); ++i)
+        table[i] = static_cast<std::uint8_t>(line.Of(static_cast<double>(i)));
+    return table;
+}
+
 template <typename Row>
 void ForRows(const Port& source, Port* target, Row&& row)
 {
@@ -51,10 +72,7 @@ void ForRows(const Port& source, Port* target, Row&& row)
 
 void FilterARGB(const FilterParameters& parameters, const Port& source, Port* target)
 {
-    const BrightnessContrast line(parameters, 255);
-    std::array<std::uint8_t, 256> table{};
-    for (std::size_t i = 0; i < table.size(); ++i)
-        table[i] = static_cast<std::uint8_t>(line.Of(static_cast<double>(i)));
+    const ByteTable table = TableOfBytes(parameters);
     const auto width = static_cast<std::size_t>(WidthOf(source.bounds));
     ForRows(source, target, [&](const std::uint8_t* from, std::uint8_t* to) {
         for (std::size_t i = 0; i < 4 * width; i += 4) {
@@ -78,23 +96,28 @@ void FilterGray16(const FilterParameters& parameters, const Port& source, Port* 
     });
 }
 
-void FilterTable(const FilterParameters& parameters, const Port& source, Port* target)
+// A new index for each index: the first one whose gray comes nearest to the changed one.
+void FilterGray8(const FilterParameters& parameters, const ColorTable& colors, const Port& source,
+                 Port* target)
 {
-    const auto used =
-        static_cast<std::size_t>(UsedRowBytes(WidthOf(source.bounds), source.pixelSize));
-    if (target != &source) {
-        target->colorTable = source.colorTable;
-        ForRows(source, target, [used](const std::uint8_t* from, std::uint8_t* to) {
-            std::memcpy(to, from, used);
-        });
+    const ByteTable table = TableOfBytes(parameters);
+    const ColorLookup grays = LookupOf(colors);
+    ByteTable indexes{};
+    for (std::size_t i = 0; i < indexes.size(); ++i) {
+        const std::uint8_t gray = table[grays[i][1]];
+        indexes[i] = NearestEntry(colors, {0xFF, gray, gray, gray});
     }
-    const BrightnessContrast line(parameters, 65535);
-    for (ColorSpec& entry : target->colorTable.fEntries) {
-        entry.red = static_cast<std::uint16_t>(line.Of(entry.red));
-        entry.green = static_cast<std::uint16_t>(line.Of(entry.green));
-        entry.blue = static_cast<std::uint16_t>(line.Of(entry.blue));
-    }
-    CTabChanged(&target->colorTable);
+    const auto width = static_cast<std::size_t>(WidthOf(source.bounds));
+    ForRows(source, target, [&](const std::uint8_t* from, std::uint8_t* to) {
+        for (std::size_t i = 0; i < width; ++i)
+            to[i] = indexes[from[i]];
+    });
+}
+
+QvxStatus CopyWhole(const Port& source, Port* target)
+{
+    return COffscreenUtils::CopyOffscreen(source, target, nullptr, nullptr, CopyMode::Replace,
+                                          nullptr);
 }
 
 }  // namespace
@@ -121,19 +144,24 @@ QvxStatus FilterGWorldToGWorld(const FilterParameters& parameters, const Port& s
         WidthOf(source.bounds) != WidthOf(target->bounds) ||
         HeightOf(source.bounds) != HeightOf(target->bounds))
         return kQvxBadArgument;
-    if (static_cast<std::uint32_t>(parameters.Get(kFilterWhat)) != kFilterBrightnessContrast)
+    if (!IsKnown(parameters))
         return kQvxUnsupported;
+    const bool inPlace = target->baseAddr == source.baseAddr;
+    if (IsNeutral(parameters))
+        return inPlace ? kQvxOK : CopyWhole(source, target);
     return Guarded([&]() -> QvxStatus {
-        if (source.pixelFormat == kPixelFormatARGB32)
+        const ColorTable& colors = TableOf(source);
+        if (source.pixelFormat == kPixelFormatARGB32) {
             FilterARGB(parameters, source, target);
-        else if (source.pixelFormat == kPixelFormatGray16)
+        } else if (source.pixelFormat == kPixelFormatGray16) {
             FilterGray16(parameters, source, target);
-        else if (!source.colorTable.fEntries.empty())
-            FilterTable(parameters, source, target);
-        else if (target == &source)
-            return FilterGWorldThroughBuffer(parameters, target);
-        else
-            return kQvxBadArgument;
+        } else if (source.pixelSize == 8 && IsGrayTable(colors) &&
+                   SameColors(colors, TableOf(*target))) {
+            FilterGray8(parameters, colors, source, target);
+        } else {
+            const QvxStatus status = inPlace ? kQvxOK : CopyWhole(source, target);
+            return status ? status : FilterGWorldThroughBuffer(parameters, target);
+        }
         return kQvxOK;
     });
 }
@@ -142,12 +170,16 @@ QvxStatus FilterGWorldThroughBuffer(const FilterParameters& parameters, Port* po
 {
     if (!port || !port->baseAddr)
         return kQvxBadArgument;
+    if (!IsKnown(parameters))
+        return kQvxUnsupported;
+    // A 32-bit port holds 8 bits of a 'b16g' pixel: nothing goes through it that need not.
+    if (IsNeutral(parameters))
+        return kQvxOK;
     std::unique_ptr<Port> buffer;
     if (const QvxStatus status = COffscreenUtils::NewQTOffscreen(
             kPixelFormatARGB32, WidthOf(port->bounds), HeightOf(port->bounds), true, &buffer))
         return status;
-    if (const QvxStatus status = COffscreenUtils::CopyOffscreen(
-            *port, buffer.get(), nullptr, nullptr, CopyMode::Replace, nullptr))
+    if (const QvxStatus status = CopyWhole(*port, buffer.get()))
         return status;
     if (const QvxStatus status = FilterGWorldToGWorld(parameters, *buffer, buffer.get()))
         return status;

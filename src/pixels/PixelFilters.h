@@ -25,14 +25,20 @@ private:
     std::vector<Entry> fEntries;
 };
 
-// Runs the effect from one port into another of the same size, or in place. Brightness adds up to
-// half of the full range at 100; contrast turns the line about the middle gray, to flat at -100 and
-// to a step at 100; both at 0 change nothing. Each colour component on its own, alpha stays; 16-bit
-// gray keeps its 16 bits; indexed pixels stay and their table changes. kQvxBadArgument for sizes or
-// formats that differ, kQvxUnsupported for another effect.
+// Runs the effect from one port into another of the same size and format, or in place. Brightness
+// adds up to half of the full range at 100; contrast turns the line about the middle gray, to flat
+// at -100 and to a step at 100. Each colour component on its own, cut to its range; alpha stays.
+//   both 0          nothing changes: two ports make a plain copy
+//   'b16g'          the line is that of 65,536 values, so no value loses its low bits
+//   8 bits of gray  pixels change to those of the table's entries that come nearest; the table
+//                   stays, as windowing writes it anew
+//   all others      by way of a 32-bit port and back with dithering; tables stay
+// kQvxBadArgument for ports without pixels or of different size or format, kQvxUnsupported for
+// another effect, kQvxNoMemory.
 [[nodiscard]] QvxStatus FilterGWorldToGWorld(const FilterParameters& parameters, const Port& source,
                                              Port* target);
-// The same in place, by way of a 32-bit port of the same size.
+// The same in place, by way of a 32-bit port of the same size; 'b16g' keeps 8 bits. Two values of 0
+// leave every bit as it is.
 [[nodiscard]] QvxStatus FilterGWorldThroughBuffer(const FilterParameters& parameters, Port* port);
 // In place where the port has 32 bits, else through a 32-bit one and back with dithering.
 [[nodiscard]] QvxStatus FilterCOffscreenThroughBufferIfNeeded(const FilterParameters& parameters,

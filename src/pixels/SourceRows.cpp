@@ -1,7 +1,9 @@
 #include "pixels/SourceRows.h"
 
+#include "pixels/PixelLanes.h"
 #include "util/ByteOrder.h"
 
+#include <algorithm>
 #include <cstring>
 
 int SampleBytes(SampleKind kind)
@@ -22,6 +24,8 @@ SourceRows::SourceRows(const PixView& view, const PixelLayout& layout, const Rec
 {
     if (layout.Indexed()) {
         fColors = LookupOf(TableOf(view));
+        std::ranges::transform(fColors, fGrays.begin(), [](const NativePixel& c) { return c[1]; });
+        fRamp = layout.pixelSize == 8 && IsGrayRamp(TableOf(view));
         fIndexes.resize(static_cast<std::size_t>(WidthOf(from)));
     }
 }
@@ -53,8 +57,10 @@ void SourceRows::Load(int row, int first, int count, std::uint8_t* samples)
             samples[i] = pixels[2 * (first + i)];
     } else {
         UnpackIndexes(pixels, first, count, fLayout.pixelSize, samples);
-        for (int i = 0; i < count && fKind == SampleKind::Gray8; ++i)
-            samples[i] = fColors[samples[i]][1];
+        if (fKind == SampleKind::Gray8 && fRamp)
+            PixelLanes::FlipBytes(samples, 0xFFFFFFFF, static_cast<std::size_t>(count));
+        for (int i = 0; i < count && fKind == SampleKind::Gray8 && !fRamp; ++i)
+            samples[i] = fGrays[samples[i]];
         for (int i = 0; i < count && fKind == SampleKind::Index && fIndexMap; ++i)
             samples[i] = (*fIndexMap)[samples[i]];
     }

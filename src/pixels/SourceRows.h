@@ -38,5 +38,7 @@ private:
     SampleKind fKind;
     const IndexMap* fIndexMap;
     ColorLookup fColors{};
+    IndexMap fGrays{};   // of a gray table
+    bool fRamp = false;  // which is that of format 40
     std::vector<std::uint8_t> fIndexes;
 };

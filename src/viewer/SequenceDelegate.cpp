@@ -5,10 +5,10 @@
 #include "dicom_core/imaging/zel_QTViewerDoc.h"
 #include "dicom_core/look/TransDocs.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
+#include "pixels/ScreenPixels.h"
 #include "util/Log.h"
 
 #include "qpix/zelImageSource.h"
-#include <QtEndian>
 #include <algorithm>
 #include <cmath>
 
@@ -61,8 +61,8 @@ QImage RenderedImage(zel_QTViewerDoc* document, const QSize& size)
                             &frame->fTransform, &turned, gAppBaseBuffer, OverlaysBeyond::Cut);
     if (status)
         LogLine(frame->fSource->GetDataPath() + ": overlays: " + std::string(StatusText(status)));
-    // Bytes A, R, G, B are a big-endian word of what Qt keeps in the host's order.
-    qFromBigEndian<quint32>(image.constBits(), image.sizeInBytes() / 4, image.bits());
+    if (CopyToScreen(port, nullptr, image.bits(), image.bytesPerLine()))
+        return {};
     return image;
 }
 

@@ -118,6 +118,24 @@ TEST(DiskPix, pixels_come_back_whole_and_in_parts)
     }
 }
 
+TEST(DiskPix, what_lies_beside_a_rectangle_in_memory_stays)
+{
+    const TempFolder folder;
+    std::vector<std::uint8_t> block(4096);
+    // The rows of the file and of the larger image in memory have the same step.
+    const auto source = NoisePort(kPixelFormatGray8, 93, 21);
+    auto larger = WhitePort(kPixelFormatGray8, 96, 21);
+    ASSERT_EQ(larger->rowBytes, source->rowBytes);
+    DiskPixPtr store = StoreOf(folder.Path("a"), *source, &block);
+    ASSERT_EQ(DiskPixGetTilePixelsEx(store.get(), source->bounds, larger->baseAddr,
+                                     larger->rowBytes, block),
+              kQvxOK);
+    for (int v = 0; v < 21; ++v) {
+        EXPECT_EQ(BitsAt(*larger, v, 92), BitsAt(*source, v, 92));
+        EXPECT_EQ(BitsAt(*larger, v, 93), BitsAt(*WhitePort(kPixelFormatGray8, 1, 1), 0, 0)) << v;
+    }
+}
+
 TEST(DiskPix, rectangles_and_blocks_that_do_not_fit_are_refused)
 {
     const TempFolder folder;

@@ -5,6 +5,8 @@
 #include "pixels/Pictures.h"
 #include "util/ByteOrder.h"
 
+#include <cstring>
+
 namespace {
 
 constexpr std::uint32_t kGray16 = kPixelFormatGray16;
@@ -170,6 +172,37 @@ TEST(CopyPixels, writes_within_target_and_clip_only)
             const bool inside = (v < 5 && h < 5) || (v >= 10 && h >= 20);
             ASSERT_EQ(BitsAt(*clipped, v, h), inside ? BitsAt(*whole, v, h) : 0xFFFFFFFFu);
         }
+    }
+}
+
+TEST(CopyPixels, of_large_pictures_is_that_of_their_strips)
+{
+    ColorTable windowed = *SystemColorTable(40);
+    for (std::size_t i = 0; i < 128; ++i)
+        windowed.fEntries[i].red = windowed.fEntries[i].green = windowed.fEntries[i].blue = 0x9000;
+    struct Row {
+        std::uint32_t from, to;
+        CopyMode mode;
+    };
+    const Row rows[] = {{40, 32, CopyMode::Replace},
+                        {32, 24, CopyMode::ReplaceInverted},
+                        {kGray16, kGray16, CopyMode::Replace}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.from);
+        const auto source = NoisePort(row.from, 900, 1000);
+        const auto whole = WhitePort(row.to, 1101, 801), strips = WhitePort(row.to, 1101, 801);
+        if (row.from == 40)
+            source->colorTable = windowed;
+        ASSERT_EQ(Copy(*source, *whole, row.mode), kQvxOK);
+        ClipRegion clip;
+        for (int top = 0; top < 801; top += 100)
+            clip.rects.push_back(RectOf(top, 0, top + 100, 1101));
+        ASSERT_EQ(CopyPixels(*source, *strips, nullptr, nullptr, row.mode, &clip), kQvxOK);
+        for (int v = 0; v < 801; ++v)
+            ASSERT_EQ(std::memcmp(RowAddress(*whole, v), RowAddress(*strips, v),
+                                  static_cast<std::size_t>(whole->rowBytes)),
+                      0)
+                << v;
     }
 }
 
