@@ -1,5 +1,6 @@
 // Copies of the files of slow media in a private folder, which dies with its tree.
 #pragma once
+#include "platform/PrivateFolder.h"
 #include "util/FileRef.h"
 #include "util/StatusCodes.h"
 
@@ -10,22 +11,6 @@ class ZELDcmTree;
 class dk_ImageFile;
 class zelImageSource;
 struct OpenSettings;
-
-// A folder of its own (0700), alive while a lock on it is held; removed with all it holds when this
-// object goes.
-class CacheFolder {
-public:
-    ~CacheFolder();
-    CacheFolder(const CacheFolder&) = delete;
-    CacheFolder& operator=(const CacheFolder&) = delete;
-    [[nodiscard]] const std::string& Path() const { return fPath; }
-
-private:
-    friend std::unique_ptr<CacheFolder> CopiesDirectoryForDisk(const std::string& name);
-    CacheFolder(std::string path, int lock) : fPath(std::move(path)), fLock(lock) {}
-    std::string fPath;
-    int fLock;  // descriptor of the folder
-};
 
 // Removes the folders that a program which ended badly has left: those whose lock can be taken. The
 // first CopiesDirectoryForDisk of a process does it.
@@ -38,7 +23,7 @@ void RemoveAbandonedCacheFolders();
 
 // A new folder "<name>.files" (or "<name>.files_1", …) in the user's caches, or in the temporary
 // folder if there are none; null when none can be made. `name` is cleaned and may be cut.
-[[nodiscard]] std::unique_ptr<CacheFolder> CopiesDirectoryForDisk(const std::string& name);
+[[nodiscard]] std::unique_ptr<PrivateFolder> CopiesDirectoryForDisk(const std::string& name);
 // Make the tree's cache folder and store it in the tree; answer its path, empty on failure.
 std::string U_Folder_CacheFolder(ZELDcmTree* tree);
 std::string U_GetDICOMDIR_CacheFolder(ZELDcmTree* tree, zelImageSource* directory);

@@ -9,16 +9,7 @@
 
 #include "qpix/zelImageSource.h"
 #include <cerrno>
-#include <fcntl.h>
-#include <filesystem>
 #include <mutex>
-#include <new>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <system_error>
-#include <unistd.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -40,70 +31,11 @@ std::string FolderOfCacheFolders()
     return !temporary.empty() && MakePrivateFolders(folder) ? folder : std::string();
 }
 
-int OpenFolder(const std::string& path)
-{
-    return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-}
-
-bool StillNames(const std::string& path, int descriptor)
-{
-    struct stat named{}, opened{};
-    return lstat(path.c_str(), &named) == 0 && fstat(descriptor, &opened) == 0 &&
-           named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
-}
-
-// Links inside are removed, not followed.
-void RemoveFolder(const std::string& path) noexcept
-{
-    try {
-        std::error_code ignored;
-        fs::remove_all(path, ignored);
-    } catch (const std::bad_alloc&) {
-        LogLine("no memory to remove a cache folder");  // the next start does it
-    }
-}
-
-// A new folder that nobody else uses, locked. EEXIST if the name is taken, any other errno if no
-// folder can be made. A file system without locks gives one that no other start removes.
-QvxStatus MakeLockedFolder(const std::string& path, int* lock)
-{
-    if (mkdir(path.c_str(), 0700) != 0)
-        return errno;
-    const int descriptor = OpenFolder(path);
-    if (descriptor < 0) {
-        const QvxStatus status = errno == ENOENT ? EEXIST : errno;
-        rmdir(path.c_str());
-        return status;
-    }
-    // Another start may have taken it for an abandoned one before it was locked.
-    const bool taken = flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-    if (taken || !StillNames(path, descriptor)) {
-        close(descriptor);
-        return EEXIST;
-    }
-    *lock = descriptor;
-    return kQvxOK;
-}
-
-void RemoveIfAbandoned(const std::string& path)
-{
-    const int descriptor = OpenFolder(path);
-    if (descriptor < 0)
-        return;
-    if (flock(descriptor, LOCK_EX | LOCK_NB) == 0)
-        RemoveFolder(path);
-    close(descriptor);
-}
-
 void RemoveAbandonedIn(const std::string& folder)
 {
-    std::error_code failed;
-    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
-         entry.increment(failed)) {
-        const std::string path = entry->path().string();
-        if (path.find(kExtension, folder.size()) != std::string::npos)
-            RemoveIfAbandoned(path);
-    }
+    RemoveAbandonedFolders(folder, {}, [](std::string_view name) {
+        return name.find(kExtension) != std::string_view::npos;
+    });
 }
 
 std::string MakeFolderOf(ZELDcmTree* tree, const std::string& ending)
@@ -115,19 +47,13 @@ std::string MakeFolderOf(ZELDcmTree* tree, const std::string& ending)
 
 }  // namespace
 
-CacheFolder::~CacheFolder()
-{
-    RemoveFolder(fPath);
-    close(fLock);
-}
-
 void RemoveAbandonedCacheFolders()
 {
     if (const std::string folder = FolderOfCacheFolders(); !folder.empty())
         RemoveAbandonedIn(folder);
 }
 
-std::unique_ptr<CacheFolder> CopiesDirectoryForDisk(const std::string& name)
+std::unique_ptr<PrivateFolder> CopiesDirectoryForDisk(const std::string& name)
 {
     static std::once_flag cleaned;
     const std::string folder = FolderOfCacheFolders();
@@ -137,12 +63,12 @@ std::unique_ptr<CacheFolder> CopiesDirectoryForDisk(const std::string& name)
     for (int number = 0; number < kMostOfOneName; ++number) {
         const std::string ending =
             number == 0 ? kExtension : kExtension + ('_' + std::to_string(number));
-        std::string path =
+        const std::string path =
             JoinedPath(folder, CleanFileName(name, kMaxFileNameBytes - ending.size()) + ending);
-        int lock = -1;
-        const QvxStatus status = MakeLockedFolder(path, &lock);
+        std::unique_ptr<PrivateFolder> made;
+        const QvxStatus status = MakePrivateFolder(path, {}, &made);
         if (status == kQvxOK)
-            return std::unique_ptr<CacheFolder>(new CacheFolder(std::move(path), lock));
+            return made;
         if (status != EEXIST)
             return nullptr;
     }

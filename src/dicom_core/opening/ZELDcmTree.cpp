@@ -19,7 +19,7 @@ std::string ZELDcmTree::fileCopiesFolder() const
     return _fileCopiesFolder ? _fileCopiesFolder->Path() : std::string();
 }
 
-void ZELDcmTree::setFileCopiesFolder(std::unique_ptr<CacheFolder> folder)
+void ZELDcmTree::setFileCopiesFolder(std::unique_ptr<PrivateFolder> folder)
 {
     _fileCopiesFolder = std::move(folder);
 }

@@ -13,7 +13,7 @@
 #include <vector>
 
 class SequenceProxies;
-class CacheFolder;
+class PrivateFolder;
 
 // A file that an open did not take, and why, in a few plain words.
 struct LeftOutFile {
@@ -33,7 +33,7 @@ public:
     void setSourceFilePath(std::string path) { _sourceFilePath = std::move(path); }
     // Empty without a cache folder.
     [[nodiscard]] std::string fileCopiesFolder() const;
-    void setFileCopiesFolder(std::unique_ptr<CacheFolder> folder);
+    void setFileCopiesFolder(std::unique_ptr<PrivateFolder> folder);
     void cleanCacheFiles();  // removes the folder with all it holds
     // Answers for proxies and crops; null until someone who shows the tree sets it. Not owned.
     void setSequenceProxies(SequenceProxies* proxies) { _sequenceProxies = proxies; }
@@ -86,7 +86,7 @@ public:
 
 private:
     SequenceProxies* _sequenceProxies = nullptr;
-    std::unique_ptr<CacheFolder> _fileCopiesFolder;
+    std::unique_ptr<PrivateFolder> _fileCopiesFolder;
     std::unique_ptr<dk_PatientListRoot> _dicomTreeRoot;
     std::string _sourceFilePath;
     std::vector<LeftOutFile> _leftOut;

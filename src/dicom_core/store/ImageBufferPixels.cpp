@@ -7,10 +7,10 @@
 
 #include <algorithm>
 #include <new>
+#include <optional>
 
 namespace {
 
-constexpr std::uint32_t kFormatRGB24 = 24;
 constexpr std::int32_t kResolution = 72 << 16;
 
 // Closes a store's file when its use ends: a stored image holds no open file.
@@ -27,8 +27,11 @@ private:
     QvxStatus fStatus;
 };
 
-bool IsShortage(QvxStatus status)
+// That making room may help against.
+bool IsShortage(QvxStatus status, std::uint32_t bufferType)
 {
+    if (bufferType == kBufferInMemory)
+        return status == kQvxNoMemory;
     return status == kQvxDiskFull || status == kQvxDirectoryFull || status == kQvxTooManyFiles;
 }
 
@@ -58,6 +61,13 @@ const ColorTable* TableForFile(const Port& port, std::uint32_t format)
                : nullptr;
 }
 
+// The image's own, or the system's that it names.
+std::optional<ColorTable> TableOf(const ImageDescription& description)
+{
+    return description.fColorTable ? description.fColorTable
+                                   : SystemColorTable(description.fColorTableId);
+}
+
 std::int64_t BytesOfPixels(std::uint32_t format, const Rect& rect)
 {
     return CalcQTImageDataSize(GWorldPixelFormatToDiskPixPixelFormat(format), WidthOf(rect),
@@ -81,34 +91,55 @@ ImageBufferInfo InfoOf(const ImageInsertionParams& params, std::uint32_t type)
 
 }  // namespace
 
+// What no image can be made of. `rect` is the part of the port that is stored.
+QvxStatus zel_ImageBuffer::CheckInsertion(const ImageInsertionParams& params, Rect* rect) const
+{
+    if (params.primaryID == 0)
+        return kQvxBadArgument;
+    if (params.type == kInsertPixels)
+        return StoredRect(params, rect);
+    const bool compressed = fType == kBufferOnDisk && params.type == kInsertCompressed &&
+                            params.description && !params.bytes.empty();
+    return compressed ? kQvxOK : kQvxBadArgument;
+}
+
 QvxStatus zel_ImageBuffer::AddNewImage(const ImageInsertionParams& params)
 {
-    if (params.primaryID == 0 || Find(params.primaryID, params.secondaryID))
+    Rect rect;
+    if (const QvxStatus status = CheckInsertion(params, &rect))
+        return status;
+    if (Find(params.primaryID, params.secondaryID))
         return kQvxBadArgument;
     try {
-        if (fType == kBufferInMemory)
-            return AddNewImage_MemBuf(params);
-        QvxStatus status = kQvxBadArgument;
-        if (params.type == kInsertPixels)
-            status = AddNewImage_DiskPix_Pixmap(params);
-        else if (params.type == kInsertCompressed)
-            status = AddNewImage_DiskPix_Compressed(params);
-        return status;
+        if (params.type == kInsertCompressed)
+            return AddNewImage_DiskPix_Compressed(params);
+        return fType == kBufferInMemory ? AddNewImage_MemBuf(params, rect)
+                                        : AddNewImage_DiskPix_Pixmap(params, rect);
     } catch (const std::bad_alloc&) {
         return kQvxNoMemory;
     }
 }
 
-QvxStatus zel_ImageBuffer::AddNewImage_DiskPix_Pixmap(const ImageInsertionParams& params)
+QvxStatus zel_ImageBuffer::CreateWithRoom(std::int64_t bytes, std::uint32_t limit,
+                                          const std::function<QvxStatus()>& create)
 {
-    Rect rect;
-    if (const QvxStatus status = StoredRect(params, &rect))
+    if (const QvxStatus status = MakeRoom(bytes, limit))
         return status;
+    const QvxStatus status = create();
+    if (!IsShortage(status, fType))
+        return status;
+    // The true shortage is not the budget's: all that it leaves free goes, and a margin. Where
+    // there is less to go, that may be enough.
+    const QvxStatus made = MakeRoom(std::max<std::int64_t>(fLimit - fUsed, 0) + 2 * bytes, limit);
+    return made && made != kZelBufferFull ? made : create();
+}
+
+QvxStatus zel_ImageBuffer::AddNewImage_DiskPix_Pixmap(const ImageInsertionParams& params,
+                                                      const Rect& rect)
+{
     const Port& port = *params.source;
     const std::uint32_t format = GWorldPixelFormatToDiskPixPixelFormat(port.pixelFormat);
     const std::int64_t bytes = BytesOfPixels(format, rect);
-    if (const QvxStatus status = MakeRoom(bytes, params.makeRoomLimit))
-        return status;
     ImageBufferInfo info = InfoOf(params, kBufferOnDisk);
     const auto create = [&]() -> QvxStatus {
         std::string path;
@@ -117,18 +148,9 @@ QvxStatus zel_ImageBuffer::AddNewImage_DiskPix_Pixmap(const ImageInsertionParams
         return DiskPixQTIFCreate(&info.fDisk, path, format, WidthOf(rect), HeightOf(rect),
                                  TableForFile(port, port.pixelFormat), kResolution, kResolution);
     };
-    QvxStatus status = create();
-    if (IsShortage(status)) {
-        // The true shortage is on the disk: all that the budget allows goes, and a margin.
-        if (const QvxStatus made = MakeRoom(std::max<std::int64_t>(fLimit - fUsed, 0) + 2 * bytes,
-                                            params.makeRoomLimit))
-            return made == kZelBufferFull ? status : made;
-        status = create();
-    }
-    if (status)
+    if (const QvxStatus status = CreateWithRoom(bytes, params.makeRoomLimit, create))
         return status;
-    status = StoreGWorldTileToDiskPix(port, rect, info.fDisk.get());
-    if (status) {
+    if (const QvxStatus status = StoreGWorldTileToDiskPix(port, rect, info.fDisk.get())) {
         DiskPixDispose(&info.fDisk);
         return status;
     }
@@ -141,11 +163,7 @@ QvxStatus zel_ImageBuffer::AddNewImage_DiskPix_Pixmap(const ImageInsertionParams
 
 QvxStatus zel_ImageBuffer::AddNewImage_DiskPix_Compressed(const ImageInsertionParams& params)
 {
-    if (!params.description || params.bytes.empty())
-        return kQvxBadArgument;
     const auto bytes = static_cast<std::int64_t>(params.bytes.size());
-    if (const QvxStatus status = MakeRoom(bytes, params.makeRoomLimit))
-        return status;
     ImageBufferInfo info = InfoOf(params, kBufferOnDisk);
     const auto create = [&]() -> QvxStatus {
         std::string path;
@@ -153,14 +171,7 @@ QvxStatus zel_ImageBuffer::AddNewImage_DiskPix_Compressed(const ImageInsertionPa
             return status;
         return DiskPixQTIFCreateCompressed(&info.fDisk, path, *params.description, params.bytes);
     };
-    QvxStatus status = create();
-    if (IsShortage(status)) {
-        if (const QvxStatus made = MakeRoom(std::max<std::int64_t>(fLimit - fUsed, 0) + 2 * bytes,
-                                            params.makeRoomLimit))
-            return made == kZelBufferFull ? status : made;
-        status = create();
-    }
-    if (status)
+    if (const QvxStatus status = CreateWithRoom(bytes, params.makeRoomLimit, create))
         return status;
     DiskPixCloseFileRef(info.fDisk.get());
     info.fWidth = params.description->fWidth;
@@ -169,36 +180,23 @@ QvxStatus zel_ImageBuffer::AddNewImage_DiskPix_Compressed(const ImageInsertionPa
     return Insert(std::move(info));
 }
 
-QvxStatus zel_ImageBuffer::AddNewImage_MemBuf(const ImageInsertionParams& params)
+QvxStatus zel_ImageBuffer::AddNewImage_MemBuf(const ImageInsertionParams& params, const Rect& rect)
 {
-    Rect rect;
-    if (params.type != kInsertPixels)
-        return kQvxBadArgument;
-    if (const QvxStatus status = StoredRect(params, &rect))
-        return status;
     ImageDescription description;
     if (const QvxStatus status = MakeImageDescriptionForPixMap(*params.source, &description))
         return status;
     const std::int64_t bytes =
         CalcQTImageDataSize(params.source->pixelFormat, WidthOf(rect), HeightOf(rect));
-    if (const QvxStatus status = MakeRoom(bytes, params.makeRoomLimit))
-        return status;
     ImageBufferInfo info = InfoOf(params, kBufferInMemory);
     const auto create = [&] {
         return COffscreenFactory::NewCOffscreen(description, WidthOf(rect), HeightOf(rect), true,
                                                 &info.fMemory);
     };
-    QvxStatus status = create();
-    if (status == kQvxNoMemory) {
-        if (const QvxStatus made = MakeRoom(std::max<std::int64_t>(fLimit - fUsed, 0) + 2 * bytes,
-                                            params.makeRoomLimit))
-            return made == kZelBufferFull ? status : made;
-        status = create();
-    }
-    if (!status)
-        status = COffscreenUtils::CopyOffscreen(*params.source, info.fMemory->GetGWorldPtr(), &rect,
-                                                nullptr, CopyMode::Replace, nullptr);
-    if (status)
+    if (const QvxStatus status = CreateWithRoom(bytes, params.makeRoomLimit, create))
+        return status;
+    if (const QvxStatus status =
+            COffscreenUtils::CopyOffscreen(*params.source, info.fMemory->GetGWorldPtr(), &rect,
+                                           nullptr, CopyMode::Replace, nullptr))
         return status;
     info.fWidth = WidthOf(rect);
     info.fHeight = HeightOf(rect);
@@ -215,14 +213,9 @@ QvxStatus zel_ImageBuffer::StoreGWorldTileToDiskPix(const Port& source, const Re
     const std::uint8_t* first = source.baseAddr +
                                 std::ptrdiff_t{rect.top - source.bounds.top} * source.rowBytes +
                                 leftBits / 8;
-    QvxStatus status = kQvxBadArgument;
-    if (source.pixelFormat != kPixelFormatARGB32)
-        status = DiskPixSetTilePixelsEx(disk, AtOrigin(rect), first, source.rowBytes, IOBuffer());
-    else if (fIOBlock)
-        status =
-            DiskPixSetTilePixelsARGBtoRGB(disk, AtOrigin(rect), first, source.rowBytes, IOBuffer());
-    RestIOBuffer();
-    return status;
+    const auto set = source.pixelFormat == kPixelFormatARGB32 ? DiskPixSetTilePixelsARGBtoRGB
+                                                              : DiskPixSetTilePixelsEx;
+    return set(disk, AtOrigin(rect), first, source.rowBytes, IOBuffer());
 }
 
 QvxStatus zel_ImageBuffer::UpdateImage(const Port& source, const Rect& rect, std::int32_t primary,
@@ -238,24 +231,23 @@ QvxStatus zel_ImageBuffer::UpdateImage(const Port& source, const Rect& rect, std
 
 QvxStatus zel_ImageBuffer::UpdateImage(const ImageInsertionParams& params)
 {
-    ImageBufferInfo* info = Find(params.primaryID, params.secondaryID);
-    QvxStatus status = kQvxOK;
     Rect rect;
-    const bool pixels = params.type == kInsertPixels && StoredRect(params, &rect) == kQvxOK;
-    const bool inPlace = pixels && info && info->fDisk && info->fDisk->fPixelSize > 0 &&
+    if (const QvxStatus status = CheckInsertion(params, &rect))
+        return status;  // what is there stays
+    ImageBufferInfo* info = Find(params.primaryID, params.secondaryID);
+    const bool inPlace = info && info->fDisk && info->fDisk->fPixelSize > 0 &&
+                         params.type == kInsertPixels &&
                          info->fDisk->fPixelFormat ==
                              GWorldPixelFormatToDiskPixPixelFormat(params.source->pixelFormat) &&
                          info->fWidth == WidthOf(rect) && info->fHeight == HeightOf(rect);
+    QvxStatus status = kQvxOK;
     if (inPlace) {
         status = UpdateInPlace(params, rect, info);
     } else {
-        if (info)
-            DisposeImageByID(params.primaryID, params.secondaryID);
+        DisposeImageByID(params.primaryID, params.secondaryID);
         status = AddNewImage(params);
     }
-    if (IsShortage(status) || (fType == kBufferInMemory && status == kQvxNoMemory))
-        return kZelBufferFull;
-    return status;
+    return IsShortage(status, fType) ? kZelBufferFull : status;
 }
 
 QvxStatus zel_ImageBuffer::UpdateInPlace(const ImageInsertionParams& params, const Rect& rect,
@@ -308,10 +300,10 @@ QvxStatus zel_ImageBuffer::DrawDisk(DiskPix* disk, Port* target, const Rect& rec
                           (rect.left - target->bounds.left) * target->pixelSize % 8 == 0;
     if (straight)
         return ReadTile(disk, target, rect);
-    const ColorTable* table =
-        disk->fDescription.fColorTable ? &*disk->fDescription.fColorTable : nullptr;
+    const std::optional<ColorTable> table = TableOf(disk->fDescription);
     std::unique_ptr<Port> stored;
-    if (const QvxStatus status = NewPort(format, disk->fWidth, disk->fHeight, table, &stored))
+    if (const QvxStatus status =
+            NewPort(format, disk->fWidth, disk->fHeight, table ? &*table : nullptr, &stored))
         return status;
     if (const QvxStatus status = ReadTile(disk, stored.get(), stored->bounds))
         return status;
@@ -324,14 +316,9 @@ QvxStatus zel_ImageBuffer::ReadTile(DiskPix* disk, Port* target, const Rect& rec
     std::uint8_t* first = target->baseAddr +
                           std::ptrdiff_t{rect.top - target->bounds.top} * target->rowBytes +
                           std::ptrdiff_t{rect.left - target->bounds.left} * target->pixelSize / 8;
-    QvxStatus status = kQvxBadArgument;
-    if (disk->fPixelFormat != kFormatRGB24 || target->pixelFormat != kPixelFormatARGB32)
-        status = DiskPixGetTilePixelsEx(disk, AtOrigin(rect), first, target->rowBytes, IOBuffer());
-    else if (fIOBlock)
-        status = DiskPixGetTilePixelsRGBtoARGB(disk, AtOrigin(rect), first, target->rowBytes,
-                                               IOBuffer());
-    RestIOBuffer();
-    return status;
+    const auto get = target->pixelFormat == kPixelFormatARGB32 ? DiskPixGetTilePixelsRGBtoARGB
+                                                               : DiskPixGetTilePixelsEx;
+    return get(disk, AtOrigin(rect), first, target->rowBytes, IOBuffer());
 }
 
 QvxStatus zel_ImageBuffer::DrawCompressed(DiskPix* disk, Port* target, const Rect& rect)

@@ -84,13 +84,6 @@ std::span<std::uint8_t> zel_ImageBuffer::IOBuffer() const
     return {fIOBlock, static_cast<std::size_t>(fIOSize)};
 }
 
-void zel_ImageBuffer::RestIOBuffer()
-{
-    constexpr std::size_t kKept = std::size_t{4} << 20;
-    if (fIOBlock && static_cast<std::size_t>(fIOSize) > kKept)
-        madvise(fIOBlock + kKept, static_cast<std::size_t>(fIOSize) - kKept, MADV_DONTNEED);
-}
-
 std::int64_t zel_ImageBuffer::CalcMaxAvailableSpace() const
 {
     std::int64_t space = std::max<std::int64_t>(fLimit - fUsed, 0);
@@ -119,37 +112,34 @@ const ImageBufferInfo* zel_ImageBuffer::GetImageInfoByID(std::int32_t primary,
     return found != fImages.end() ? &found->second : nullptr;
 }
 
-void zel_ImageBuffer::Touch(ImageBufferInfo* info)
+void zel_ImageBuffer::Renew(ImageBufferInfo* info, std::uint32_t priority, std::uint32_t stamp)
 {
-    fTurns.erase(TurnOf(*info));
-    info->fAccessStamp = NextStamp();
-    fTurns.insert(TurnOf(*info));
+    auto turn = fTurns.extract(TurnOf(*info));  // its memory serves again: nothing can fail
+    info->fPriority = priority;
+    info->fAccessStamp = stamp;
+    turn.value() = TurnOf(*info);
+    fTurns.insert(std::move(turn));
 }
+
+void zel_ImageBuffer::Touch(ImageBufferInfo* info) { Renew(info, info->fPriority, NextStamp()); }
 
 void zel_ImageBuffer::SetPriority(ImageBufferInfo* info, std::uint32_t priority)
 {
-    fTurns.erase(TurnOf(*info));
-    info->fPriority = priority;
-    fTurns.insert(TurnOf(*info));
+    Renew(info, priority, info->fAccessStamp);
 }
 
 QvxStatus zel_ImageBuffer::Insert(ImageBufferInfo info)
 {
+    info.fAccessStamp = NextStamp();
+    const Turn turn = TurnOf(info);
     try {
-        info.fAccessStamp = NextStamp();
-        const Turn turn = TurnOf(info);
-        const std::int64_t bytes = info.fBytes;
         fTurns.insert(turn);
-        try {
-            fImages.emplace(turn.second, std::move(info));
-        } catch (const std::bad_alloc&) {
-            fTurns.erase(turn);
-            DiskPixDispose(&info.fDisk);
-            return kQvxNoMemory;
-        }
-        fUsed += bytes;
+        ImageBufferInfo& kept = fImages[turn.second];
+        kept = std::move(info);
+        fUsed += kept.fBytes;
         return kQvxOK;
     } catch (const std::bad_alloc&) {
+        fTurns.erase(turn);
         DiskPixDispose(&info.fDisk);
         return kQvxNoMemory;
     }

@@ -74,8 +74,9 @@ public:
 
     // Evicts down to the new limit. kQvxBadArgument if it is negative.
     [[nodiscard]] QvxStatus SetBufLimit(std::int32_t bytes);
-    // The block that pixels pass through: set aside, but no memory before it is used. 0 frees it;
-    // one that can't be had leaves the old one; a negative size does nothing.
+    // The block that pixels pass through: set aside, but no memory before it is used, and then of a
+    // few groups of rows only. 0 frees it; one that can't be had leaves the old one; a negative
+    // size does nothing. 32-bit frames need it.
     void SetIOBufferSize(std::int32_t bytes);
     [[nodiscard]] std::int32_t IOBufferSize() const { return fIOSize; }
     [[nodiscard]] std::int64_t CalcMaxAvailableSpace() const;
@@ -138,14 +139,21 @@ private:
     static Key KeyOf(std::int32_t primary, std::int32_t secondary) { return {secondary, primary}; }
     static Turn TurnOf(const ImageBufferInfo& info);
     [[nodiscard]] ImageBufferInfo* Find(std::int32_t primary, std::int32_t secondary);
+    void Renew(ImageBufferInfo* info, std::uint32_t priority, std::uint32_t stamp);
     void Touch(ImageBufferInfo* info);
     void SetPriority(ImageBufferInfo* info, std::uint32_t priority);
     Images::iterator Dispose(Images::iterator image);
     [[nodiscard]] Images::iterator ChooseImageToDispose(std::uint32_t limit);
     [[nodiscard]] QvxStatus Insert(ImageBufferInfo info);
-    [[nodiscard]] QvxStatus AddNewImage_DiskPix_Pixmap(const ImageInsertionParams& params);
+    [[nodiscard]] QvxStatus CheckInsertion(const ImageInsertionParams& params, Rect* rect) const;
+    // Makes room, runs `create`, and once more after a shortage that more room may help against.
+    [[nodiscard]] QvxStatus CreateWithRoom(std::int64_t bytes, std::uint32_t limit,
+                                           const std::function<QvxStatus()>& create);
+    [[nodiscard]] QvxStatus AddNewImage_DiskPix_Pixmap(const ImageInsertionParams& params,
+                                                       const Rect& rect);
     [[nodiscard]] QvxStatus AddNewImage_DiskPix_Compressed(const ImageInsertionParams& params);
-    [[nodiscard]] QvxStatus AddNewImage_MemBuf(const ImageInsertionParams& params);
+    [[nodiscard]] QvxStatus AddNewImage_MemBuf(const ImageInsertionParams& params,
+                                               const Rect& rect);
     [[nodiscard]] QvxStatus StoreGWorldTileToDiskPix(const Port& source, const Rect& rect,
                                                      DiskPix* disk);
     [[nodiscard]] QvxStatus UpdateInPlace(const ImageInsertionParams& params, const Rect& rect,
@@ -155,8 +163,6 @@ private:
     [[nodiscard]] QvxStatus DrawCompressed(DiskPix* disk, Port* target, const Rect& rect);
     [[nodiscard]] std::span<std::uint8_t> IOBuffer() const;
     void FreeIOBuffer();
-    // Gives back the memory of a block that a large frame has passed through.
-    void RestIOBuffer();
 
     std::uint32_t fType;
     Images fImages;

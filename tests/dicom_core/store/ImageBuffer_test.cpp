@@ -2,13 +2,10 @@
 #include "dicom_core/store/TempFolder.h"
 #include "dicom_core/store/zel_ImageBuffer.h"
 #include "fixtures/TempFolder.h"
-#include "platform/Folders.h"
 
 #include <csignal>
 #include <cstring>
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -67,6 +64,44 @@ protected:
     std::unique_ptr<zel_ImageBuffer> buffer;
 };
 
+// Another process with a folder of its own, which ends only when it is killed.
+class OtherProcess {
+public:
+    OtherProcess()
+    {
+        int ends[2] = {-1, -1};
+        EXPECT_EQ(pipe(ends), 0);
+        fChild = fork();
+        if (fChild == 0) {
+            const std::string& folder = GetProgramTempFolder();
+            if (write(ends[1], folder.data(), folder.size()) > 0)
+                pause();
+            _exit(1);
+        }
+        char name[1024];
+        const ssize_t got = read(ends[0], name, sizeof name);
+        fFolder.assign(name, got > 0 ? static_cast<std::size_t>(got) : 0);
+        close(ends[0]);
+        close(ends[1]);
+    }
+    ~OtherProcess() { Kill(); }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+    void Kill()
+    {
+        if (fChild > 0) {
+            kill(fChild, SIGKILL);
+            waitpid(fChild, nullptr, 0);
+        }
+        fChild = 0;
+    }
+    [[nodiscard]] const std::string& Folder() const { return fFolder; }
+
+private:
+    pid_t fChild = 0;
+    std::string fFolder;
+};
+
 }  // namespace
 
 TEST_P(ImageBuffer, frames_come_back_and_cost_what_is_stated)
@@ -85,8 +120,7 @@ TEST_P(ImageBuffer, frames_come_back_and_cost_what_is_stated)
     ASSERT_EQ(buffer->DrawImageByID(2, 7, colorAgain.get(), nullptr), kQvxOK);
     EXPECT_TRUE(SamePixels(*gray, *again));
     EXPECT_TRUE(SamePixels(*color, *colorAgain, 4));
-    if (disk)
-        EXPECT_EQ(colorAgain->baseAddr[0], 0);
+    EXPECT_TRUE(!disk || colorAgain->baseAddr[0] == 0);
     const Rect half{0, 0, 50, 50};
     EXPECT_EQ(buffer->DrawImageByID(2, 7, colorAgain.get(), &half), kQvxOK);
     EXPECT_TRUE(buffer->DisposeImageByID(1, 7));
@@ -156,13 +190,21 @@ TEST_P(ImageBuffer, updates_priorities_and_what_lies_beside_a_frame)
     EXPECT_FALSE(buffer->GetImageAuxInfoByID(1, 7, kTag, aux, 4)) << "no room for it";
     EXPECT_TRUE(buffer->GetImageAuxInfoByID(1, 7, kTag, aux, sizeof aux));
     EXPECT_STREQ(aux, "12345");
+    const auto fileOf = [this] {
+        const ImageBufferInfo* info = buffer->GetImageInfoByID(1, 7);
+        return info->fDisk ? info->fDisk->fPath : std::string();
+    };
+    const std::string file = fileOf();
     ASSERT_EQ(buffer->UpdateImage(Params(*other, 1)), kQvxOK);
+    EXPECT_EQ(fileOf(), file) << "written in place";
+    EXPECT_EQ(buffer->UpdateImage(*larger, Rect{0, 0, 11, 30}, 1, 7), kQvxBadArgument);
     auto read = PortOf(kPixelFormatGray16, 20, 10, 0);
     ASSERT_EQ(buffer->DrawImageByID(1, 7, read.get(), nullptr), kQvxOK);
     EXPECT_TRUE(SamePixels(*other, *read));
     EXPECT_EQ(buffer->BytesUsed(), 400);
     ASSERT_EQ(buffer->UpdateImage(Params(*larger, 1)), kQvxOK);
     EXPECT_EQ(buffer->BytesUsed(), 600);
+    EXPECT_FALSE(std::filesystem::exists(file));
 
     ASSERT_EQ(buffer->UpdateImage(Params(*first, 2, 2, kAllPriorities, 8)), kQvxOK);
     buffer->ChangeAllPriorities(2, 1);
@@ -182,27 +224,63 @@ INSTANTIATE_TEST_SUITE_P(Stores, ImageBuffer, testing::Values(kBufferOnDisk, kBu
 using DiskBuffer = ImageBuffer;
 TEST_P(DiskBuffer, a_full_disk_makes_room_or_says_so)
 {
-    buffer->SetIOBufferSize(0);
-    const auto frame = PortOf(40, 100, 100, 1), large = PortOf(40, 900, 900, 1);
-    ASSERT_EQ(buffer->AddNewImage(Params(*frame, 1)), kQvxOK);
+    const auto frame = PortOf(40, 100, 100, 1);
+    for (std::int32_t id = 1; id <= 5; ++id)
+        ASSERT_EQ(buffer->AddNewImage(Params(*frame, id)), kQvxOK);
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit tight{65536, before.rlim_max};
+    const rlimit tight{4096, before.rlim_max};
     setrlimit(RLIMIT_FSIZE, &tight);
-    const QvxStatus status = buffer->UpdateImage(Params(*large, 2));
+    const QvxStatus status = buffer->UpdateImage(Params(*frame, 6));
     setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(status, kZelBufferFull);
-    EXPECT_FALSE(Holds(2));
-    EXPECT_EQ(buffer->BytesUsed(), Holds(1) ? 10000 : 0);
+    EXPECT_EQ(buffer->BytesUsed(), 30000) << "twice the frame's size has gone";
+    EXPECT_TRUE(!Holds(1) && !Holds(2) && Holds(3) && !Holds(6));
     std::size_t files = 0;
     for (const auto& entry : std::filesystem::directory_iterator(GetProgramTempFolder()))
         files += entry.path().filename().string().starts_with("Temp_") ? 1 : 0;
     EXPECT_EQ(files, buffer->CountImages());
+
     const auto color = PortOf(kPixelFormatARGB32, 10, 10, 1);
-    EXPECT_EQ(buffer->AddNewImage(Params(*color, 3)), kQvxBadArgument)
+    buffer->SetIOBufferSize(0);
+    EXPECT_EQ(buffer->AddNewImage(Params(*color, 7)), kQvxBadArgument)
         << "colour needs the block to pass through";
+    EXPECT_EQ(buffer->BytesUsed(), 30000);
+}
+
+TEST_P(DiskBuffer, indexed_and_compressed_frames_are_drawn_as_what_they_were)
+{
+    std::unique_ptr<Port> gray;  // a system's table, but not the one of 8 bits
+    const std::optional<ColorTable> table = SystemColorTable(40);
+    ASSERT_EQ(NewPort(8, 16, 16, &*table, &gray), kQvxOK);
+    std::memset(gray->baseAddr, 200, 16 * 16);
+    ASSERT_EQ(buffer->AddNewImage(Params(*gray, 1)), kQvxOK);
+    auto target = PortOf(kPixelFormatARGB32, 8, 8, 0);
+    ASSERT_EQ(buffer->DrawImageByID(1, 7, target.get(), nullptr), kQvxOK);
+    for (const int i : {1, 2, 3})
+        EXPECT_EQ(target->baseAddr[i], 55) << "entry 200 of the gray table";
+
+    ImageDescription description;
+    description.fCodecType = FourCC("jpeg");
+    description.fWidth = description.fHeight = 64;
+    const std::vector<std::byte> bytes(333, std::byte{7});
+    ImageInsertionParams params = Params(*gray, 2);
+    params.type = kInsertCompressed;
+    params.description = &description;
+    params.bytes = bytes;
+    ASSERT_EQ(buffer->AddNewImage(params), kQvxOK);
+    EXPECT_EQ(buffer->BytesUsed(), 256 + 333);
+    EXPECT_EQ(buffer->DrawImageByID(2, 7, target.get(), nullptr), kQvxUnsupported);
+    buffer->SetDecompressor([&](const ImageDescription& said, std::span<const std::byte> stored,
+                                Port*, const Rect& rect) {
+        const bool same = std::equal(stored.begin(), stored.end(), bytes.begin(), bytes.end());
+        return same && said.fCodecType == FourCC("jpeg") && rect == Rect{0, 0, 8, 8}
+                   ? kQvxOK
+                   : kQvxBadArgument;
+    });
+    EXPECT_EQ(buffer->DrawImageByID(2, 7, target.get(), nullptr), kQvxOK);
 }
 INSTANTIATE_TEST_SUITE_P(Disk, DiskBuffer, testing::Values(kBufferOnDisk));
 
@@ -210,22 +288,22 @@ TEST(TempFolderOfFrames, is_private_marked_and_swept_when_its_process_is_gone)
 {
     const TempFolder home;
     setenv("XDG_CACHE_HOME", home.Path().c_str(), 1);
+    OtherProcess other;
     const std::string own = GetProgramTempFolder();
     ASSERT_FALSE(own.empty());
     EXPECT_LE(std::filesystem::path(own).filename().string().size(), 31u);
     EXPECT_EQ(std::filesystem::status(own).permissions(), std::filesystem::perms::owner_all);
     EXPECT_TRUE(std::filesystem::exists(own + "/ZEL_LockFile.txt"));
     const std::string parent = std::filesystem::path(own).parent_path();
-    const std::string dead = parent + "/ZeloraZEL Temp_1_1", alive = parent + "/ZeloraZEL Temp_2_2";
-    std::filesystem::create_directory(dead);
-    std::filesystem::create_directory(alive);
-    std::ofstream(dead + "/ZEL_LockFile.txt").close();
-    std::ofstream(dead + "/Temp_00000001").close();
-    const int lock = open((alive + "/ZEL_LockFile.txt").c_str(), O_RDWR | O_CREAT, 0600);
-    ASSERT_EQ(flock(lock, LOCK_EX), 0);
+    const std::string unmarked = parent + "/ZeloraZEL Temp_1_1";
+    std::filesystem::create_directory(unmarked);
     SweepDeadTempFolders();
-    EXPECT_FALSE(std::filesystem::exists(dead));
-    EXPECT_TRUE(std::filesystem::exists(alive));
+    EXPECT_TRUE(std::filesystem::exists(own));
+    EXPECT_TRUE(std::filesystem::exists(other.Folder()));
+    EXPECT_FALSE(std::filesystem::exists(unmarked)) << "given up while it was made";
+    other.Kill();
+    SweepDeadTempFolders();
+    EXPECT_FALSE(std::filesystem::exists(other.Folder()));
     EXPECT_TRUE(std::filesystem::exists(own));
     std::string first, second;
     EXPECT_EQ(NewTempFile(&first), kQvxOK);
@@ -233,6 +311,5 @@ TEST(TempFolderOfFrames, is_private_marked_and_swept_when_its_process_is_gone)
     EXPECT_NE(first, second);
     RemoveProgramTempFolder();
     EXPECT_FALSE(std::filesystem::exists(own));
-    close(lock);
     unsetenv("XDG_CACHE_HOME");
 }
