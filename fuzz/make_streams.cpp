@@ -1,6 +1,6 @@
 // Writes seeds for the fuzzers of the stream decoders, a folder for each: sound streams with the
 // header bytes that go with them.
-#include "QvxToolkit/StreamMaker.h"
+#include "QvxToolkit/JXLMaker.h"
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -36,10 +36,8 @@ int main(int argc, char** argv)
         Write("fuzz_jpegls", gray, JPEGLS(gray, 0, 0));
         Write("fuzz_jpeg2000", gray, JPEG2000(gray, bits == 8, bits == 12, bits != 16));
         Write("fuzz_rle", gray, RLE(gray, bits > 8 ? 2 : 1));
-        Write("fuzz_deflated", gray, DeflatedRaw(std::string(13 * 17 * 2, 'd')));
-        // An encoder for these is in no library that the tests use: bare and boxed starts.
-        Write("fuzz_jpegxl", gray, std::string("\xFF\x0A\x7F\x28\x14\x08\x10", 7));
-        Write("fuzz_jpegxl", gray, std::string("\0\0\0\x0CJXL \x0D\x0A\x87\x0A", 12));
+        Write("fuzz_deflated", gray, Deflated(std::string(13 * 17 * 2, 'd')));
+        Write("fuzz_jpegxl", gray, JPEGXL(gray, bits == 12, bits == 8));
     }
     const StreamPicture color = MakePicture(16, 16, 3, 8), bytes = MakePicture(16, 16, 1, 8);
     Write("fuzz_jpeg", color, LossyJPEG(color, true, false));
@@ -47,6 +45,8 @@ int main(int argc, char** argv)
     Write("fuzz_jpegls", color, JPEGLS(color, 2, 0));
     Write("fuzz_jpegls", color, JPEGLS(color, 0, 2));
     Write("fuzz_jpeg2000", color, JPEG2000(color, false, false, true));
+    Write("fuzz_jpegxl", color, JPEGXL(color));
+    Write("fuzz_jpegxl", color, JPEGXL(color, true));
     Write("fuzz_rle", color, RLE(color, 1));
     return 0;
 }

@@ -19,8 +19,8 @@ public:
     Inflater(const Inflater&) = delete;
     Inflater& operator=(const Inflater&) = delete;
 
-    // Bytes that came out, and whether the stream came to its end or filled the room.
-    std::size_t Run(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> room, bool* whole)
+    // Bytes that came out, and whether the stream came to its end.
+    std::size_t Run(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> room, bool* ended)
     {
         if (!fReady)
             return 0;
@@ -28,8 +28,7 @@ public:
         fState.avail_in = static_cast<uInt>(bytes.size());
         fState.next_out = room.data();
         fState.avail_out = static_cast<uInt>(room.size());
-        const int result = inflate(&fState, Z_FINISH);
-        *whole = result == Z_STREAM_END || fState.avail_out == 0;
+        *ended = inflate(&fState, Z_FINISH) == Z_STREAM_END;
         return room.size() - fState.avail_out;
     }
 
@@ -40,6 +39,29 @@ private:
 
 constexpr int kRaw = -15, kWrapped = 15;
 constexpr std::size_t kMostOfByte = 1040;  // deflate never gives more bytes for one
+
+// Two samples a pixel, not three: chrominance is halved, as it may be in native frames.
+bool IsHalfChroma(const QvxFrameRecord& record, std::size_t there, std::size_t bytes)
+{
+    const bool mayBe = record.fPhotometric == QvxPhotometric::YBRFull422 ||
+                       record.fPhotometric == QvxPhotometric::YBRPartial;
+    return mayBe && record.fSamples == 3 && record.fColumns % 2 == 0 && 3 * there == 2 * bytes;
+}
+
+// `samples`, of the frame's form, go into the frame.
+void TakeSamples(const QvxFrameRecord& record, bool halfChroma, QvxBytes&& samples,
+                 DecodedFrame* frame)
+{
+    if (halfChroma || (record.fPlanar && !record.IsGray())) {
+        QvxFrameRecord arranged(record);
+        arranged.fHalfChroma = halfChroma;
+        frame->fBytes.resize(samples.size());
+        QvxInterleave(arranged, samples, frame);
+    } else {
+        frame->fBytes = std::move(samples);
+    }
+    QvxTurnToRGB(record, frame);
+}
 
 }  // namespace
 
@@ -59,10 +81,10 @@ QvxStatus QvxDecodeDeflated(const QvxFrameRecord& record, const QvxStream& strea
     }
     QvxBytes inflated(bytes + 8);  // the bit reader loads eight bytes at a time
     const std::span<std::uint8_t> room(inflated.data(), bytes);
-    bool whole = false;
-    std::size_t there = Inflater(kRaw).Run(stream.Bytes(), room, &whole);
+    bool ended = false;
+    std::size_t there = Inflater(kRaw).Run(stream.Bytes(), room, &ended);
     if (there == 0)
-        there = Inflater(kWrapped).Run(stream.Bytes(), room, &whole);
+        there = Inflater(kWrapped).Run(stream.Bytes(), room, &ended);
     if (there == 0) {
         *why = "the deflated frame can't be inflated";
         return kQvxMalformed;
@@ -79,13 +101,8 @@ QvxStatus QvxDecodeDeflated(const QvxFrameRecord& record, const QvxStream& strea
         QvxUnpackCells(host, inflated.data(), samples.data(), cells);
     else
         QvxUnpackBits(host, inflated.data(), 0, samples.data(), cells);
-    if (record.fPlanar && !record.IsGray()) {
-        frame->fBytes.resize(samples.size());
-        QvxInterleave(record, samples, frame);
-    } else {
-        frame->fBytes = std::move(samples);
-    }
-    QvxTurnToRGB(record, frame);
-    frame->fCutShort = stream.fCutShort || there < bytes;
+    const bool halfChroma = ended && IsHalfChroma(record, there, bytes);
+    TakeSamples(record, halfChroma, std::move(samples), frame);
+    frame->fCutShort = stream.fCutShort || (there < bytes && !halfChroma);
     return kQvxOK;
 }

@@ -3,6 +3,7 @@
 #include "QvxToolkit/QvxJPEGModule.h"
 #include "QvxToolkit/QvxModule.h"
 #include "QvxToolkit/QvxStreamDecoders.h"
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <turbojpeg.h>
@@ -24,12 +25,12 @@ bool HoldsYBR(const QvxFrameRecord& record, const QvxJPEGHeader& header)
         return false;
     if (header.fAdobeTransform >= 0)
         return header.fAdobeTransform != 0;
-    if (header.fJFIF || header.IsSubsampled())
+    if (header.fJFIF)
         return true;
     const auto& parts = header.fComponent;
     if (parts[0].fID == 'R' && parts[1].fID == 'G' && parts[2].fID == 'B')
         return false;
-    return SaysYBR(record.fPhotometric);
+    return header.IsSubsampled() || SaysYBR(record.fPhotometric);
 }
 
 struct TurboClose {
@@ -46,6 +47,19 @@ bool TurboTakesYBR(const QvxJPEGHeader& header)
     return parts[0].fID != 'R' || parts[1].fID != 'G' || parts[2].fID != 'B';
 }
 
+// The plain library leaves what a cut stream lacks in the middle of the range: rows of nothing else
+// at the end of the frame become 0.
+void ClearUndecoded(std::uint32_t rows, QvxBytes* samples)
+{
+    constexpr std::uint8_t kMiddle = 128;
+    const auto found = std::find_if(samples->rbegin(), samples->rend(),
+                                    [](std::uint8_t byte) { return byte != kMiddle; });
+    const std::size_t rowBytes = samples->size() / rows;
+    const auto decoded = static_cast<std::size_t>(samples->rend() - found);
+    const std::size_t kept = (decoded + rowBytes - 1) / rowBytes * rowBytes;
+    std::fill(samples->begin() + static_cast<std::ptrdiff_t>(kept), samples->end(), 0);
+}
+
 QvxStatus DecodeByTurbo(const QvxJPEGHeader& header, std::span<const std::uint8_t> stream,
                         QvxBytes* samples, bool* cut, std::string* why)
 {
@@ -60,7 +74,9 @@ QvxStatus DecodeByTurbo(const QvxJPEGHeader& header, std::span<const std::uint8_
     if (result == 0)
         return kQvxOK;
     if (tjGetErrorCode(handle.get()) == TJERR_WARNING) {
-        *cut = true;
+        *cut = !QvxHasJPEGEnd(stream);
+        if (*cut)
+            ClearUndecoded(header.fRows, samples);
         return kQvxOK;
     }
     *why = tjGetErrorStr2(handle.get());
@@ -92,11 +108,50 @@ QvxStatus DecodeByModule(const QvxJPEGHeader& header, bool turn,
     return result == kQvxJPEGFailed ? kQvxMalformed : kQvxOK;
 }
 
+// The module holds rows back until it sees what follows them, and a picture of several scans until
+// it sees its end. True where a cut stream may give more if it is told that it ends.
+bool MayHoldBack(const QvxJPEGHeader& header, const QvxBytes& samples)
+{
+    if (header.IsProgressive())
+        return true;
+    std::uint32_t rows = 1;  // that are decoded together
+    for (std::uint32_t i = 0; header.IsDCT() && i < header.fComponents; ++i)
+        rows = std::max(rows, 8U * header.fComponent[i].fVertical);
+    const std::size_t held = samples.size() / header.fRows * std::min(rows + 1, header.fRows);
+    return std::any_of(samples.end() - static_cast<std::ptrdiff_t>(held), samples.end(),
+                       [](std::uint8_t byte) { return byte != 0; });
+}
+
+QvxStatus DecodeCutByModule(const QvxJPEGHeader& header, bool turn,
+                            std::span<const std::uint8_t> stream, QvxBytes* samples, bool* cut,
+                            std::string* why)
+{
+    const QvxStatus status = DecodeByModule(header, turn, stream, samples, cut, why);
+    if (status || !*cut || QvxHasJPEGEnd(stream) || !MayHoldBack(header, *samples))
+        return status;
+    QvxBytes ended(stream.begin(), stream.end());
+    ended.insert(ended.end(), {0xFF, 0xD9});
+    QvxBytes more(samples->size());
+    bool ignored = false;
+    std::string reason;
+    if (DecodeByModule(header, turn, ended, &more, &ignored, &reason) == kQvxOK)
+        *samples = std::move(more);
+    return kQvxOK;
+}
+
 QvxStatus CheckHeader(const QvxFrameRecord& record, const QvxJPEGHeader& header,
                       const QvxStreamFacts& facts, std::size_t streamBytes, std::string* why)
 {
     if (!header.IsDCT() && !header.IsLossless()) {
-        *why = "a JPEG stream of a kind that there is no decoder of";
+        constexpr std::uint8_t kArithmetic = 0xC9;
+        *why = header.fFrameMarker >= kArithmetic
+                   ? "an arithmetic-coded JPEG stream: there is no decoder of these"
+                   : "a hierarchical JPEG stream: there is no decoder of these";
+        return kQvxUnsupported;
+    }
+    if (header.fRows == 0 || !header.HasWholeFactors()) {
+        *why = header.fRows == 0 ? "a JPEG stream that says its number of rows behind them"
+                                 : "a JPEG stream of broken sampling factors";
         return kQvxUnsupported;
     }
     if (header.fScans > kMaxJPEGScans) {
@@ -138,9 +193,9 @@ QvxStatus QvxDecodeJPEG(const QvxFrameRecord& record, const QvxStream& stream, D
     const bool plain = header.IsDCT() && header.fPrecision == 8 &&
                        (header.fComponents == 1 || TurboTakesYBR(header) == ybr);
     bool cut = false;
-    const QvxStatus status = plain
-                                 ? DecodeByTurbo(header, stream.Bytes(), &samples, &cut, why)
-                                 : DecodeByModule(header, ybr, stream.Bytes(), &samples, &cut, why);
+    const QvxStatus status =
+        plain ? DecodeByTurbo(header, stream.Bytes(), &samples, &cut, why)
+              : DecodeCutByModule(header, ybr, stream.Bytes(), &samples, &cut, why);
     if (status)
         return status;
     const bool lossy = header.IsDCT();

@@ -1,6 +1,6 @@
 // JPEG 2000 frames, high throughput ones included: the library decodes into planes of 32-bit
 // numbers, which are packed here.
-#include "QvxToolkit/QvxJ2KHeader.h"
+#include "QvxToolkit/QvxJ2KCost.h"
 #include "QvxToolkit/QvxStreamDecoders.h"
 #include <algorithm>
 #include <cstring>
@@ -12,6 +12,10 @@ namespace {
 
 // More tiles than that are made to keep a machine busy, not to show a picture.
 constexpr std::uint64_t kFewTiles = 64, kPixelsOfTile = 256;
+// The library sets aside half a kilobyte and more for each precinct and code block.
+constexpr std::uint64_t kMostPieces = std::uint64_t{1} << 21;
+// Each packet takes a byte, or would if the stream weren't cut.
+constexpr std::uint64_t kFewPackets = std::uint64_t{1} << 16, kMostPacketsOfByte = 16;
 // Threads pay from about this size on.
 constexpr std::uint64_t kPixelsForThreads = std::uint64_t{1} << 18;
 constexpr unsigned kMostThreads = 8;
@@ -76,9 +80,11 @@ void TakeMessage(const char* message, void* why)
 }
 void DropMessage(const char*, void*) {}
 
-CodecPtr MakeCodec(const QvxJ2KHeader& header, std::uint64_t pixels, std::string* fault)
+CodecPtr MakeCodec(std::uint64_t pixels, std::string* fault)
 {
-    CodecPtr codec(opj_create_decompress(header.fBoxed ? OPJ_CODEC_JP2 : OPJ_CODEC_J2K));
+    // Of a JP2 only the codestream goes to the library: palettes and channel definitions of boxes
+    // mean nothing here, components stay as they are.
+    CodecPtr codec(opj_create_decompress(OPJ_CODEC_J2K));
     if (!codec)
         return nullptr;
     opj_set_error_handler(codec.get(), TakeMessage, fault);
@@ -86,8 +92,6 @@ CodecPtr MakeCodec(const QvxJ2KHeader& header, std::uint64_t pixels, std::string
     opj_set_info_handler(codec.get(), DropMessage, nullptr);
     opj_dparameters_t parameters;
     opj_set_default_decoder_parameters(&parameters);
-    // Palettes and channel definitions of boxes mean nothing here: components stay as they are.
-    parameters.flags |= OPJ_DPARAMETERS_IGNORE_PCLR_CMAP_CDEF_FLAG;
     if (!opj_setup_decoder(codec.get(), &parameters) ||
         !opj_decoder_set_strict_mode(codec.get(), OPJ_FALSE))
         return nullptr;
@@ -113,12 +117,12 @@ StreamPtr MakeStream(MemoryStream* memory)
     return stream;
 }
 
-QvxStatus Decode(const QvxJ2KHeader& header, std::span<const std::uint8_t> bytes,
-                 std::uint64_t pixels, ImagePtr* image, std::string* why)
+QvxStatus Decode(std::span<const std::uint8_t> bytes, std::uint64_t pixels, ImagePtr* image,
+                 std::string* why)
 {
     std::string fault;
     MemoryStream memory{bytes};
-    const CodecPtr codec = MakeCodec(header, pixels, &fault);
+    const CodecPtr codec = MakeCodec(pixels, &fault);
     const StreamPtr stream = MakeStream(&memory);
     if (!codec || !stream)
         return kQvxNoMemory;
@@ -174,6 +178,37 @@ void Pack(const opj_image_t& image, const QvxJ2KHeader& header, std::uint8_t* sa
     }
 }
 
+QvxBytes PackSamples(const opj_image_t& image, const QvxJ2KHeader& header,
+                     const QvxStreamFacts& facts, DecodedFrame* frame)
+{
+    const std::uint32_t sampleBytes = QvxSampleBytes(facts.fPrecision);
+    QvxBytes samples = QvxTakeBlock(
+        frame, std::size_t{facts.fRows} * facts.fColumns * facts.fSamples * sampleBytes);
+    if (sampleBytes == 1)
+        Pack<std::uint8_t>(image, header, samples.data());
+    else if (sampleBytes == 2)
+        Pack<std::uint16_t>(image, header, samples.data());
+    else
+        Pack<std::uint32_t>(image, header, samples.data());
+    return samples;
+}
+
+// The codec's own transform leaves RGB, and so does a JP2 that names luminance and chrominance
+// once these are turned; else the file's header is all there is.
+void TakeSamples(const QvxFrameRecord& record, const QvxJ2KHeader& header,
+                 const QvxStreamFacts& facts, QvxBytes&& samples, DecodedFrame* frame)
+{
+    if (header.fIsYCC && !header.fComponentTransform) {
+        QvxFrameRecord asNamed(record);
+        asNamed.fPhotometric = QvxPhotometric::YBRFull;
+        return QvxTakeSamples(asNamed, facts, QvxStreamColor::AsFileSays, std::move(samples),
+                              frame);
+    }
+    const bool turned = header.fComponentTransform && !header.fIsYCC;
+    QvxTakeSamples(record, facts, turned ? QvxStreamColor::RGB : QvxStreamColor::AsFileSays,
+                   std::move(samples), frame);
+}
+
 // A reversible stream may have been cut to a size: then its file says that it is lossy.
 bool MayBeLossy(const QvxFrameRecord& record, const QvxJ2KHeader& header)
 {
@@ -182,9 +217,29 @@ bool MayBeLossy(const QvxFrameRecord& record, const QvxJ2KHeader& header)
            uid == "1.2.840.10008.1.2.4.203";
 }
 
+QvxStatus CheckCost(const QvxJ2KHeader& header, std::string* why)
+{
+    QvxJ2KCost cost;
+    if (const QvxStatus status = QvxCountJ2KCost(header, &cost, why))
+        return status;
+    if (cost.fPieces > kMostPieces) {
+        *why = "a JPEG 2000 image of " + std::to_string(cost.fPieces) + " pieces";
+        return kQvxUnsupported;
+    }
+    if (cost.fPackets > kFewPackets + kMostPacketsOfByte * header.fCodestream.size()) {
+        *why = "the stream is far too short for its " + std::to_string(cost.fPackets) + " packets";
+        return kQvxMalformed;
+    }
+    return kQvxOK;
+}
+
 QvxStatus CheckHeader(const QvxFrameRecord& record, const QvxJ2KHeader& header,
                       const QvxStreamFacts& facts, std::size_t streamBytes, std::string* why)
 {
+    if (header.fPart2 && header.fComponents != record.fSamples) {
+        *why = "a JPEG 2000 codestream whose components are several frames";
+        return kQvxUnsupported;
+    }
     if (const QvxStatus status = QvxCheckStream(record, facts, why))
         return status;
     // The library's planes are of 32 bits, and it keeps as much again while it decodes.
@@ -199,7 +254,7 @@ QvxStatus CheckHeader(const QvxFrameRecord& record, const QvxJ2KHeader& header,
         *why = "the stream is far too short for its frame";
         return kQvxMalformed;
     }
-    return kQvxOK;
+    return CheckCost(header, why);
 }
 
 }  // namespace
@@ -208,33 +263,24 @@ QvxStatus QvxDecodeJPEG2000(const QvxFrameRecord& record, const QvxStream& strea
                             DecodedFrame* frame, std::string* why)
 {
     QvxJ2KHeader header;
-    if (!QvxReadJ2KHeader(stream.Bytes(), &header, why))
-        return kQvxMalformed;
+    if (const QvxStatus status = QvxReadJ2KHeader(stream.Bytes(), &header, why))
+        return status;
     const QvxStreamFacts facts{header.fRows, header.fColumns, header.fComponents, header.fPrecision,
                                MayBeLossy(record, header)};
     if (const QvxStatus status = CheckHeader(record, header, facts, stream.fBytes.size(), why))
         return status;
     ImagePtr image;
-    QvxBytes bounded(stream.fBytes);
-    QvxBoundTileParts(bounded);
-    if (const QvxStatus status = Decode(header, bounded, record.Pixels(), &image, why))
-        return status;
+    QvxBytes bounded(header.fCodestream.begin(), header.fCodestream.end());
+    const bool cut = QvxBoundTileParts(bounded);
+    if (const QvxStatus status = Decode(bounded, record.Pixels(), &image, why))
+        return status == kQvxMalformed && header.fPart2 ? kQvxUnsupported : status;
     if (!IsAsPromised(*image, facts)) {
         *why = "the JPEG 2000 stream lacks a component";
         return kQvxMalformed;
     }
-    const std::uint32_t sampleBytes = QvxSampleBytes(facts.fPrecision);
-    QvxBytes samples = QvxTakeBlock(frame, record.Pixels() * facts.fSamples * sampleBytes);
-    if (sampleBytes == 1)
-        Pack<std::uint8_t>(*image, header, samples.data());
-    else if (sampleBytes == 2)
-        Pack<std::uint16_t>(*image, header, samples.data());
-    else
-        Pack<std::uint32_t>(*image, header, samples.data());
+    QvxBytes samples = PackSamples(*image, header, facts, frame);
     image.reset();
-    const bool turned = header.fComponentTransform && !header.fIsYCC;
-    QvxTakeSamples(record, facts, turned ? QvxStreamColor::RGB : QvxStreamColor::AsFileSays,
-                   std::move(samples), frame);
-    frame->fCutShort = stream.fCutShort;
+    TakeSamples(record, header, facts, std::move(samples), frame);
+    frame->fCutShort = stream.fCutShort || cut;
     return kQvxOK;
 }

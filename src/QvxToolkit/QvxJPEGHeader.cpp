@@ -139,3 +139,9 @@ bool QvxReadJPEGHeader(std::span<const std::uint8_t> stream, QvxJPEGHeader* head
     *why = "the JPEG stream has no frame header";
     return false;
 }
+
+bool QvxHasJPEGEnd(std::span<const std::uint8_t> stream)
+{
+    constexpr std::array<std::uint8_t, 2> kEnd{kMarker, kEndOfImage};
+    return std::find_end(stream.begin(), stream.end(), kEnd.begin(), kEnd.end()) != stream.end();
+}

@@ -1,5 +1,6 @@
 // What the marker segments of a JPEG stream say, ITU-T T.81 Annex B. Internal.
 #pragma once
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
@@ -21,6 +22,20 @@ struct QvxJPEGHeader {
     [[nodiscard]] bool IsProgressive() const { return fFrameMarker == 0xC2; }
     // Baseline, extended or progressive of DCT, coded by Huffman.
     [[nodiscard]] bool IsDCT() const { return fFrameMarker >= 0xC0 && fFrameMarker <= 0xC2; }
+    // Every component is as fine as the finest, or coarser by a whole factor.
+    [[nodiscard]] bool HasWholeFactors() const
+    {
+        std::uint8_t across = 1, down = 1;
+        for (std::uint32_t i = 0; i < fComponents && i < fComponent.size(); ++i) {
+            across = std::max(across, fComponent[i].fHorizontal);
+            down = std::max(down, fComponent[i].fVertical);
+        }
+        for (std::uint32_t i = 0; i < fComponents && i < fComponent.size(); ++i) {
+            if (across % fComponent[i].fHorizontal != 0 || down % fComponent[i].fVertical != 0)
+                return false;
+        }
+        return across <= 4 && down <= 4;
+    }
     [[nodiscard]] bool IsSubsampled() const
     {
         for (std::uint32_t i = 0; i < fComponents && i < fComponent.size(); ++i) {
@@ -39,3 +54,5 @@ inline constexpr std::uint32_t kMaxJPEGScans = 100;
 // scans of progressive streams are counted, up to one more than kMaxJPEGScans.
 [[nodiscard]] bool QvxReadJPEGHeader(std::span<const std::uint8_t> stream, QvxJPEGHeader* header,
                                      std::string* why);
+// An end-of-image marker is in the stream: it was not cut.
+[[nodiscard]] bool QvxHasJPEGEnd(std::span<const std::uint8_t> stream);

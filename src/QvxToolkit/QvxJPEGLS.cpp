@@ -35,6 +35,8 @@ bool ReadHeader(std::span<const std::uint8_t> bytes, LSHeader* header)
             const std::size_t components = length >= 3 ? payload[0] : 0;
             if (!framed || length < 6 + 2 * components)
                 return false;
+            // Near-lossless samples may come out beyond the stored bits.
+            header->fFacts.fLossy = payload[1 + 2 * components] != 0;
             header->fInterleave = payload[2 + 2 * components];
             return header->fInterleave <= 2;
         }

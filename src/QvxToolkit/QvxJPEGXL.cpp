@@ -14,10 +14,11 @@ struct Room {
 };
 
 // Called from within the library: nothing is thrown through it.
-void* MakeRoom(void* context, std::uint32_t precision)
+void* MakeRoom(void* context, std::uint32_t precision, bool lossy)
 {
     auto* room = static_cast<Room*>(context);
     room->fFacts.fPrecision = precision;
+    room->fFacts.fLossy = lossy;
     try {
         room->fSamples =
             QvxTakeBlock(room->fFrame, std::size_t{room->fFacts.fRows} * room->fFacts.fColumns *

@@ -2,92 +2,36 @@
 // each a plane of its own.
 #include "util/ByteOrder.h"
 
+#include "QvxToolkit/QvxPackBits.h"
 #include "QvxToolkit/QvxStreamDecoders.h"
+#include "QvxToolkit/QvxWeave.h"
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
 
 namespace {
 
 constexpr std::size_t kHeaderBytes = 64;
 constexpr std::uint32_t kMostSegments = 15;
-constexpr std::size_t kShort = 16;  // bytes
+using Segment = std::span<const std::uint8_t>;
 
-struct Segment {
-    std::span<const std::uint8_t> fBytes;
-};
-
-// PackBits, piece by piece.
-class PackBits {
-public:
-    explicit PackBits(std::span<const std::uint8_t> segment)
-        : fIn(segment.data()), fEnd(segment.data() + segment.size())
-    {
-    }
-    // Fills `count` bytes; what the segment lacks is 0.
-    void Read(std::uint8_t* out, std::size_t count);
-    [[nodiscard]] bool CutShort() const { return fCutShort; }
-
-private:
-    bool NextPacket();
-
-    const std::uint8_t* fIn;
-    const std::uint8_t* fEnd;
-    std::size_t fLeft = 0;  // of the present packet
-    int fValue = -1;        // of a run; -1: literals
-    bool fCutShort = false;
-};
-
-bool PackBits::NextPacket()
+// A single plane right into its place, the rest 0; false when the segment is too short.
+bool UnpackWhole(Segment segment, std::span<std::uint8_t> plane)
 {
-    while (fIn < fEnd) {
-        const auto code = static_cast<std::int8_t>(*fIn++);
-        if (code == -128)  // nothing, by agreement
-            continue;
-        if (code >= 0) {
-            fLeft = std::min<std::size_t>(static_cast<std::size_t>(code) + 1,
-                                          static_cast<std::size_t>(fEnd - fIn));
-            fValue = -1;
-            return fLeft > 0;
-        }
-        if (fIn == fEnd)
-            return false;
-        fLeft = static_cast<std::size_t>(1 - code);
-        fValue = *fIn++;
-        return true;
-    }
-    return false;
-}
-
-void PackBits::Read(std::uint8_t* out, std::size_t count)
-{
-    while (count > 0) {
-        if (fLeft == 0 && !NextPacket()) {
-            std::memset(out, 0, count);
-            fCutShort = true;
-            return;
-        }
-        const std::size_t now = std::min(fLeft, count);
-        // Most packets are short: a fixed size is one store, and what it writes too much comes
-        // next.
-        const bool room = now <= kShort && count >= kShort;
-        if (fValue >= 0) {
-            if (room)
-                std::memset(out, fValue, kShort);
-            else
-                std::memset(out, fValue, now);
-        } else {
-            const bool readable = static_cast<std::size_t>(fEnd - fIn) >= kShort;
-            if (room && readable)
-                std::memcpy(out, fIn, kShort);
-            else
-                std::memcpy(out, fIn, now);
-            fIn += now;
-        }
-        out += now;
-        count -= now;
-        fLeft -= now;
-    }
+    constexpr std::size_t kPacket = QvxPackBits::kPacket;
+    QvxPackBits packBits(segment);
+    std::size_t have = 0;
+    if (plane.size() > kPacket)
+        have = packBits.Fill(plane.data(), 0, plane.size() - kPacket);
+    // The last packets may give more than there is room for.
+    const std::size_t wanted = plane.size() - have;
+    std::array<std::uint8_t, 2 * kPacket> end{};
+    const std::size_t there =
+        wanted <= kPacket ? std::min(packBits.Fill(end.data(), 0, wanted), wanted) : 0;
+    std::copy_n(end.begin(), there, plane.data() + have);
+    std::memset(plane.data() + have + there, 0, wanted - there);
+    return there == wanted;
 }
 
 // Where the segments lie: each from its offset to the next one's, or the end of the stream.
@@ -114,58 +58,69 @@ bool ReadSegments(std::span<const std::uint8_t> stream, std::uint32_t wanted,
                 "RLE segment " + std::to_string(i + 1) + " lies at byte " + std::to_string(begin);
             return false;
         }
-        (*segments)[i].fBytes = stream.subspan(begin, end - begin);
+        (*segments)[i] = stream.subspan(begin, end - begin);
     }
     return true;
 }
 
-// Two planes become words of the host.
-void SpreadWords(const std::uint8_t* __restrict high, const std::uint8_t* __restrict low,
-                 std::uint16_t* __restrict words, std::size_t count)
-{
-    for (std::size_t i = 0; i < count; ++i)
-        words[i] = static_cast<std::uint16_t>(high[i] << 8 | low[i]);
-}
-
-void SpreadPlane(const std::uint8_t* __restrict plane, std::uint8_t* __restrict to,
-                 std::size_t count, std::size_t step)
-{
-    for (std::size_t i = 0; i < count; ++i)
-        to[i * step] = plane[i];
-}
-
-using Planes = std::vector<PackBits>;
-
-// All planes, a piece of each at a time: small enough to stay in the processor's caches.
-void FillSamples(Planes* planes, std::size_t cellBytes, std::size_t pixels, std::uint8_t* samples)
-{
-    constexpr std::size_t kPiece = 8192;
-    alignas(64) std::array<std::uint8_t, 2 * kPiece> piece;
-    const std::size_t step = planes->size();
-    for (std::size_t first = 0; first < pixels; first += kPiece) {
-        const std::size_t count = std::min(kPiece, pixels - first);
-        std::uint8_t* to = samples + first * step;
-        if (step == 1) {
-            (*planes)[0].Read(to, count);
-            continue;
-        }
-        if (step == 2) {
-            (*planes)[0].Read(piece.data(), count);
-            (*planes)[1].Read(piece.data() + kPiece, count);
-            // The block is a vector's, and the place an even one: aligned for words.
-            SpreadWords(piece.data(), piece.data() + kPiece, reinterpret_cast<std::uint16_t*>(to),
-                        count);
-            continue;
-        }
-        for (std::size_t plane = 0; plane < step; ++plane) {
-            (*planes)[plane].Read(piece.data(), count);
-            const std::size_t byte = plane % cellBytes;
-            const std::size_t place = std::endian::native == std::endian::little
-                                          ? plane - byte + (cellBytes - 1 - byte)
-                                          : plane;
-            SpreadPlane(piece.data(), to + place, count, step);
-        }
+// The samples of all planes, a strip of pixels at a time, which stays in the fastest memory.
+class PlaneReader {
+public:
+    PlaneReader(const QvxFrameRecord& record, std::span<const Segment> segments)
+        : fSamples(record.fSamples),
+          fCellBytes(segments.size() / record.fSamples),
+          fSampleBytes(QvxSampleBytes(record.fBitsAllocated)),
+          fPlanes(segments.begin(), segments.end())
+    {
     }
+    // Fills `count` pixels; false when segments were too short.
+    bool Fill(std::uint8_t* to, std::size_t count);
+
+private:
+    static constexpr std::size_t kStrip = QvxPackedPlane::kStrip;
+
+    // A strip of one sample, its bytes in the order of the host, made at `to`. One of a single byte
+    // stays where it is. Answers where.
+    const std::uint8_t* Sample(std::size_t sample, std::size_t count, std::uint8_t* to);
+
+    std::size_t fSamples, fCellBytes, fSampleBytes;
+    std::vector<QvxPackedPlane> fPlanes;
+};
+
+const std::uint8_t* PlaneReader::Sample(std::size_t sample, std::size_t count, std::uint8_t* to)
+{
+    static constexpr std::array<std::uint8_t, kStrip> kNothing{};  // above 24 bits
+    std::array<const std::uint8_t*, 4> parts;
+    parts.fill(kNothing.data());
+    for (std::size_t byte = 0; byte < fCellBytes; ++byte) {
+        const std::size_t place = fCellBytes - 1 - byte;
+        parts[std::endian::native == std::endian::little ? place : fSampleBytes - 1 - place] =
+            fPlanes[sample * fCellBytes + byte].Next(count);
+    }
+    if (fSampleBytes == 1)
+        return parts[0];
+    QvxWeave(std::span(parts).first(fSampleBytes), 1, count, to);
+    return to;
+}
+
+bool PlaneReader::Fill(std::uint8_t* to, std::size_t count)
+{
+    const std::size_t stripBytes = kStrip * fSampleBytes;
+    QvxBytes room(fSamples == 1 ? 0 : 3 * stripBytes);
+    while (count > 0) {
+        const std::size_t strip = std::min(count, kStrip);
+        if (fSamples == 1) {
+            Sample(0, strip, to);
+        } else {
+            std::array<const std::uint8_t*, 3> colors;
+            for (std::size_t i = 0; i < colors.size(); ++i)
+                colors[i] = Sample(i, strip, room.data() + i * stripBytes);
+            QvxWeave(colors, fSampleBytes, strip, to);
+        }
+        to += strip * fSamples * fSampleBytes;
+        count -= strip;
+    }
+    return std::ranges::none_of(fPlanes, &QvxPackedPlane::CutShort);
 }
 
 // Single bits: one segment of packed ones, the first in the lowest bit.
@@ -196,31 +151,27 @@ QvxStatus QvxDecodeRLE(const QvxFrameRecord& record, const QvxStream& stream, De
     if (record.fSamples * cellBytes > kMostSegments ||
         !ReadSegments(stream.Bytes(), record.fSamples * cellBytes, &segments, why))
         return kQvxMalformed;
-    if (cellBytes == 3) {
-        *why = "RLE of 24 bits a cell";
-        return kQvxUnsupported;
-    }
     // No stream makes more than 64 bytes of one; nothing is set aside on a header's word alone.
     const std::size_t pixels = record.Pixels();
     if (stream.fBytes.size() * 64 < pixels / (bits ? 8 : 1)) {
         *why = "the stream is far too short for its frame";
         return kQvxMalformed;
     }
-    Planes planes;
-    for (std::uint32_t i = 0; i < record.fSamples * cellBytes; ++i)
-        planes.emplace_back(segments[i].fBytes);
+    bool whole = false;
     QvxBytes samples;
     if (bits) {
         QvxBytes packed((pixels + 7) / 8);
-        planes[0].Read(packed.data(), packed.size());
+        whole = UnpackWhole(segments[0], packed);
         samples = BitsToSamples(packed, pixels);
     } else {
-        samples = std::move(frame->fBytes);
-        samples.resize(pixels * planes.size());  // all of it is written
-        FillSamples(&planes, cellBytes, pixels, samples.data());
+        samples = QvxTakeUsedBlock(
+            frame, pixels * record.fSamples * QvxSampleBytes(record.fBitsAllocated));
+        whole = record.fSamples * cellBytes == 1
+                    ? UnpackWhole(segments[0], samples)
+                    : PlaneReader(record, std::span(segments).first(record.fSamples * cellBytes))
+                          .Fill(samples.data(), pixels);
     }
-    const bool cut = std::ranges::any_of(planes, &PackBits::CutShort);
     QvxTakeSamples(record, facts, QvxStreamColor::AsFileSays, std::move(samples), frame);
-    frame->fCutShort = stream.fCutShort || cut;
+    frame->fCutShort = stream.fCutShort || !whole;
     return kQvxOK;
 }

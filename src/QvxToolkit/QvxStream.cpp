@@ -2,7 +2,9 @@
 
 #include "QvxToolkit/QvxCells.h"
 #include "QvxToolkit/QvxColor.h"
+#include "QvxToolkit/QvxWeave.h"
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace {
@@ -130,16 +132,23 @@ QvxBytes QvxTakeBlock(DecodedFrame* frame, std::size_t bytes)
     return block;
 }
 
+QvxBytes QvxTakeUsedBlock(DecodedFrame* frame, std::size_t bytes)
+{
+    QvxBytes block = std::move(frame->fBytes);
+    if (block.capacity() < bytes)
+        block.clear();  // nothing of it is worth a copy
+    block.resize(bytes);
+    return block;
+}
+
 QvxBytes QvxInterleavePlanes(const QvxStreamFacts& facts, const QvxBytes& planes)
 {
     const std::size_t size = QvxSampleBytes(facts.fPrecision);
     const std::size_t pixels = std::size_t{facts.fRows} * facts.fColumns;
     QvxBytes interleaved(planes.size());
-    for (std::size_t plane = 0; plane < facts.fSamples; ++plane) {
-        const std::uint8_t* from = planes.data() + plane * pixels * size;
-        std::uint8_t* to = interleaved.data() + plane * size;
-        for (std::size_t i = 0; i < pixels; ++i)
-            std::memcpy(to + i * facts.fSamples * size, from + i * size, size);
-    }
+    std::array<const std::uint8_t*, 3> starts;
+    for (std::size_t i = 0; i < starts.size(); ++i)
+        starts[i] = planes.data() + i * pixels * size;
+    QvxWeave(starts, size, pixels, interleaved.data());
     return interleaved;
 }

@@ -59,5 +59,7 @@ void QvxTakeSamples(const QvxFrameRecord& record, const QvxStreamFacts& facts, Q
                     QvxBytes&& samples, DecodedFrame* frame);
 // The frame's own block, emptied, with room for `bytes`; what a codec leaves unwritten is 0.
 [[nodiscard]] QvxBytes QvxTakeBlock(DecodedFrame* frame, std::size_t bytes);
-// Samples of single planes, one behind the other, brought into the interleaved order.
+// The same as it was left: for a codec that writes every byte.
+[[nodiscard]] QvxBytes QvxTakeUsedBlock(DecodedFrame* frame, std::size_t bytes);
+// Samples of three planes, one behind the other, brought into the interleaved order.
 [[nodiscard]] QvxBytes QvxInterleavePlanes(const QvxStreamFacts& facts, const QvxBytes& planes);

@@ -208,6 +208,26 @@ std::string LossyJPEG(const StreamPicture& picture, bool subsampled, bool progre
     return out;
 }
 
+std::string BareJPEG(const StreamPicture& picture, bool subsampled)
+{
+    const std::size_t pixels = picture.values.size() / 3;
+    std::vector<std::uint8_t> planes(picture.values.size());
+    for (std::size_t i = 0; i < picture.values.size(); ++i)
+        planes[i % 3 * pixels + i / 3] = static_cast<std::uint8_t>(picture.values[i]);
+    const unsigned char* starts[] = {planes.data(), planes.data() + pixels,
+                                     planes.data() + 2 * pixels};
+    const int strides[] = {picture.columns, picture.columns, picture.columns};
+    const tjhandle handle = tjInitCompress();
+    unsigned char* stream = nullptr;
+    unsigned long size = 0;
+    tjCompressFromYUVPlanes(handle, starts, picture.columns, strides, picture.rows,
+                            subsampled ? TJSAMP_420 : TJSAMP_444, &stream, &size, 98, 0);
+    std::string out(reinterpret_cast<char*>(stream), size);
+    tjFree(stream);
+    tjDestroy(handle);
+    return out.erase(2, 18);  // JFIF
+}
+
 std::string JPEGLS(const StreamPicture& picture, int interleave, int near)
 {
     std::vector<std::uint8_t> bytes = PackedSamples(picture);
@@ -321,10 +341,10 @@ std::string RLE(const StreamPicture& picture, int bytesOfSample)
     return header + body;
 }
 
-std::string DeflatedRaw(const std::string& bytes)
+std::string Deflated(const std::string& bytes, bool wrapped)
 {
     z_stream state{};
-    deflateInit2(&state, 9, Z_DEFLATED, -15, 9, Z_DEFAULT_STRATEGY);
+    deflateInit2(&state, 9, Z_DEFLATED, wrapped ? 15 : -15, 9, Z_DEFAULT_STRATEGY);
     std::string out(bytes.size() + 1000, '\0');
     state.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data()));
     state.avail_in = static_cast<uInt>(bytes.size());

@@ -21,10 +21,12 @@ struct StreamPicture {
                                        bool restarts = false);
 [[nodiscard]] std::string LossyJPEG(const StreamPicture& picture, bool subsampled,
                                     bool progressive);
+// Three components of 8 bits as they are, and no segment that tells what they are.
+[[nodiscard]] std::string BareJPEG(const StreamPicture& picture, bool subsampled);
 // Interleave 0 by plane, 1 by line, 2 by sample.
 [[nodiscard]] std::string JPEGLS(const StreamPicture& picture, int interleave, int near);
 [[nodiscard]] std::string JPEG2000(const StreamPicture& picture, bool boxed, bool tiled,
                                    bool reversible);
 // Planes of bytes, the highest first, each with runs and literals.
 [[nodiscard]] std::string RLE(const StreamPicture& picture, int bytesOfSample);
-[[nodiscard]] std::string DeflatedRaw(const std::string& bytes);
+[[nodiscard]] std::string Deflated(const std::string& bytes, bool wrapped = false);

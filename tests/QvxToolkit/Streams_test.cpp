@@ -96,7 +96,8 @@ TEST(Streams, lossless_ones_give_every_sample_back)
     std::string cells;
     for (const std::int32_t value : large.values)
         cells += {static_cast<char>(value & 0xFF), static_cast<char>(value >> 8)};
-    rows.push_back({"deflated", kDeflatedFrames, large, DeflatedRaw(cells)});
+    rows.push_back({"deflated", kDeflatedFrames, large, Deflated(cells)});
+    rows.push_back({"deflated, wrapped", kDeflatedFrames, large, Deflated(cells, true)});
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what + ", " + std::to_string(row.picture.bits) + " bits");
         ToolkitFile file = FileOf(row.picture, row.uid, row.stream);
@@ -122,6 +123,17 @@ TEST(Streams, lossy_ones_come_near_in_the_right_colours)
         const char* photometric;
         double tolerance;
     };
+    auto bright = MakePicture(32, 48, 1, 12);
+    bright.bits = 16;
+    std::string halfChroma;  // 200, 100, 50 in full range
+    for (int i = 0; i < 32 * 48 / 2; ++i)
+        halfChroma += "\x7C\x7C\x56\xB6";
+    const StreamPicture plain = [] {
+        StreamPicture picture{32, 48, 3, 8, false, {}};
+        for (int i = 0; i < 32 * 48; ++i)
+            picture.values.insert(picture.values.end(), {200, 100, 50});
+        return picture;
+    }();
     const Row rows[] = {
         {"gray", kUidJpegBaseline, gray, LossyJPEG(gray, false, false), "MONOCHROME2", 16},
         {"progressive", kExtended, gray, LossyJPEG(gray, false, true), "MONOCHROME2", 16},
@@ -129,12 +141,20 @@ TEST(Streams, lossy_ones_come_near_in_the_right_colours)
         {"JFIF outweighs a header of RGB", kUidJpegBaseline, color, LossyJPEG(color, true, false),
          "RGB", 3},
         {"near-lossless", "1.2.840.10008.1.2.4.81", gray, JPEGLS(gray, 0, 3), "MONOCHROME2", 3},
+        {"near-lossless beyond the stored bits", "1.2.840.10008.1.2.4.81", bright,
+         JPEGLS(bright, 0, 3), "MONOCHROME2", 3},
+        {"deflated, half of the chrominance", kDeflatedFrames, plain, Deflated(halfChroma),
+         "YBR_FULL_422", 2},
         {"irreversible", kJ2KLossy, color, JPEG2000(color, false, false, false), "YBR_ICT", 4},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
         ImageHead head = HeadOf(row.picture);
         head.photometric = row.photometric;
+        if (&row.picture == &bright) {
+            head.stored = 12;
+            head.highBit = 11;
+        }
         ToolkitFile file(ImageFile(head, row.uid).Encapsulated({{row.stream}}));
         EXPECT_LE(GreatestDifference(file.Values(), Wanted(row.picture)), row.tolerance)
             << file.why;
@@ -155,10 +175,9 @@ TEST(Streams, what_came_before_a_cut_is_shown)
         {"JPEG-LS", kLS, gray, JPEGLS(gray, 0, 0)},
         {"RLE", kUidRle, bytes, RLE(bytes, 1)},
         {"deflated", kDeflatedFrames, bytes,
-         DeflatedRaw(
-             {reinterpret_cast<const char*>(
-                  std::vector<std::uint8_t>(bytes.values.begin(), bytes.values.end()).data()),
-              bytes.values.size()})},
+         Deflated({reinterpret_cast<const char*>(
+                       std::vector<std::uint8_t>(bytes.values.begin(), bytes.values.end()).data()),
+                   bytes.values.size()})},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
@@ -172,6 +191,7 @@ TEST(Streams, what_came_before_a_cut_is_shown)
     }
     ToolkitFile half = FileOf(gray, kJ2K, JPEG2000(gray, false, false, true).substr(0, 1200));
     EXPECT_EQ(half.Values().size(), gray.values.size()) << half.why;
+    EXPECT_TRUE(half.frame.fCutShort);
     ToolkitFile lossy =
         FileOf(bytes, kUidJpegBaseline, LossyJPEG(bytes, false, false).substr(0, 700));
     EXPECT_EQ(lossy.Values().size(), bytes.values.size()) << lossy.why;
@@ -190,6 +210,16 @@ TEST(Streams, what_disagrees_with_the_file_is_refused_before_it_is_decoded)
             stream.insert(scan, one);
         return stream;
     }();
+    // Of a sound stream: its size, its layers, its code blocks.
+    std::string pieces = JPEG2000(small, false, false, true), layers = pieces;
+    const std::size_t style = pieces.find("\xFF\x52");
+    for (const std::size_t side : {8, 12, 24, 28})
+        pieces.replace(side, 4, {'\0', '\0', '\x40', '\0'});
+    pieces[style + 10] = pieces[style + 11] = 0;
+    pieces.resize(8192);
+    layers.replace(style + 6, 2, "\xFF\xFF");
+    std::string frames = JPEG2000(color, false, false, true);
+    frames[6] = '\x80';
     std::string segments = RLE(small, 1), offsets = RLE(small, 1);
     segments[0] = 2;
     offsets[4] = 1;
@@ -213,6 +243,11 @@ TEST(Streams, what_disagrees_with_the_file_is_refused_before_it_is_decoded)
         {"samples", kJ2K, HeadOf(small), JPEG2000(color, false, false, true), kQvxMalformed,
          "samples"},
         {"bits", kJ2K, HeadOf(small), JPEG2000(deep, false, false, true), kQvxMalformed, "bits"},
+        {"the smallest code blocks", kJ2K, with(HeadOf(small), 16384, 16384), pieces,
+         kQvxUnsupported, "pieces"},
+        {"layers without packets", kJ2K, HeadOf(small), layers, kQvxMalformed, "packets"},
+        {"several frames in a codestream", "1.2.840.10008.1.2.4.93", HeadOf(small), frames,
+         kQvxUnsupported, "several frames"},
         {"scans without end", kExtended, HeadOf(small), many, kQvxUnsupported, "100 scans"},
         {"no frame header", kLossless, HeadOf(small), std::string("\xFF\xD8\xFF\xD9", 4),
          kQvxMalformed, "no frame header"},

@@ -28,6 +28,7 @@ private:
         return result;
     }
     std::int32_t TakeInfo();
+    std::int32_t TakeLayer() const;
     std::int32_t GiveRoom();
     std::int32_t End(bool flushed);
     void SpanBits() const;
@@ -36,6 +37,7 @@ private:
     std::unique_ptr<JxlDecoder, DecoderDestroy> fDecoder;
     JxlPixelFormat fFormat{};
     std::uint32_t fPrecision = 0;
+    bool fLossy = false;
     void* fRoom = nullptr;
 };
 
@@ -54,8 +56,20 @@ std::int32_t Run::TakeInfo()
     if (info.have_animation)
         return Say(kQvxJPEGXLDiffers, "the JPEG XL stream holds several pictures");
     fPrecision = info.bits_per_sample;
+    fLossy = info.uses_original_profile == JXL_FALSE;
     fFormat = {fRequest.fSamples, fPrecision <= 8 ? JXL_TYPE_UINT8 : JXL_TYPE_UINT16,
                JXL_NATIVE_ENDIAN, 0};
+    return kQvxJPEGXLDone;
+}
+
+// A layer may be far larger than the image that it is a part of, and costs its own size.
+std::int32_t Run::TakeLayer() const
+{
+    JxlFrameHeader layer{};
+    if (JxlDecoderGetFrameHeader(fDecoder.get(), &layer) != JXL_DEC_SUCCESS)
+        return Say(kQvxJPEGXLFailed, "the JPEG XL stream has no sound layer");
+    if (!layer.is_last || layer.layer_info.have_crop)
+        return Say(kQvxJPEGXLDiffers, "the JPEG XL image is made of layers");
     return kQvxJPEGXLDone;
 }
 
@@ -64,7 +78,7 @@ std::int32_t Run::GiveRoom()
     std::size_t size = 0;
     if (JxlDecoderImageOutBufferSize(fDecoder.get(), &fFormat, &size) != JXL_DEC_SUCCESS)
         return Say(kQvxJPEGXLFailed, "the JPEG XL stream can't be decoded");
-    void* room = fRequest.fMakeRoom(fRequest.fContext, fPrecision);
+    void* room = fRequest.fMakeRoom(fRequest.fContext, fPrecision, fLossy);
     if (!room ||
         JxlDecoderSetImageOutBuffer(fDecoder.get(), &fFormat, room, size) != JXL_DEC_SUCCESS)
         return Say(kQvxJPEGXLFailed, "there is no room for the JPEG XL image");
@@ -104,19 +118,23 @@ std::int32_t Run::End(bool flushed)
 std::int32_t Run::Decode()
 {
     if (!fDecoder ||
-        JxlDecoderSubscribeEvents(fDecoder.get(), JXL_DEC_BASIC_INFO | JXL_DEC_FULL_IMAGE) !=
-            JXL_DEC_SUCCESS ||
+        JxlDecoderSubscribeEvents(fDecoder.get(), JXL_DEC_BASIC_INFO | JXL_DEC_FRAME |
+                                                      JXL_DEC_FULL_IMAGE) != JXL_DEC_SUCCESS ||
+        JxlDecoderSetCoalescing(fDecoder.get(), JXL_FALSE) != JXL_DEC_SUCCESS ||
         JxlDecoderSetInput(fDecoder.get(), fRequest.fStream, fRequest.fStreamBytes) !=
             JXL_DEC_SUCCESS)
         return Say(kQvxJPEGXLFailed, "the JPEG XL decoder can't be started");
     // Orientations are for photographs: rows stay as they are stored.
     JxlDecoderSetKeepOrientation(fDecoder.get(), JXL_TRUE);
-    JxlDecoderCloseInput(fDecoder.get());
+    // The input isn't closed: a stream that breaks off asks for more, and what there is can be had.
     for (;;) {
         std::int32_t result = kQvxJPEGXLDone;
         switch (JxlDecoderProcessInput(fDecoder.get())) {
             case JXL_DEC_BASIC_INFO:
                 result = TakeInfo();
+                break;
+            case JXL_DEC_FRAME:
+                result = TakeLayer();
                 break;
             case JXL_DEC_NEED_IMAGE_OUT_BUFFER:
                 result = GiveRoom();
