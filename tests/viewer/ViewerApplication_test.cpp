@@ -111,6 +111,31 @@ TEST_F(ViewerSession, opens_a_path_once_and_ends_with_its_last_window)
     EXPECT_EQ(code, 0);
 }
 
+// Down to the pixels on the screen: whatever the program has to make before a frame can be decoded.
+TEST_F(ViewerSession, shows_the_pixels_of_the_first_frame)
+{
+    DicomBuilder builder;
+    builder.Meta(kUidExplicitLittle).CommonHeader();
+    builder.Image({.rows = 64, .columns = 64});
+    std::vector<int> halves;
+    for (int i = 0; i < 64 * 64; ++i)
+        halves.push_back(i % 64 < 32 ? 250 : 3);
+    const std::string path = folder.WriteFile("halves", builder.NativePixels(halves).Bytes());
+    QImage shown;
+    Run({path}, {[&] {
+            const auto windows = Showing<ViewerWindow>();
+            if (windows.empty() ||
+                !windows.front()->windowTitle().contains(QStringLiteral("halves")))
+                return false;
+            shown = windows.front()->findChild<MUPhotoView*>()->grab().toImage();
+            const QPoint middle = shown.rect().center();
+            const bool painted = qGray(shown.pixel(middle - QPoint(20, 0))) > 200;
+            return painted && windows.front()->close();
+        }});
+    ASSERT_FALSE(shown.isNull());
+    EXPECT_LT(qGray(shown.pixel(shown.rect().center() + QPoint(20, 0))), 60);
+}
+
 TEST_F(ViewerSession, what_fails_is_told_and_only_a_session_of_failures_ends_with_1)
 {
     const std::string good = Image("good"), bad = folder.WriteFile("bad.dcm", "no DICOM");
