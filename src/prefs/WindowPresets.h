@@ -1,0 +1,23 @@
+// The user's presets of window and level: those stored under "WWWLPresets", or those that come with
+// the program (resources/WWWLPresets.plist). Main thread only.
+#pragma once
+#include "util/StatusCodes.h"
+
+#include <QString>
+#include <QVariantMap>
+#include <vector>
+
+struct ZELWWWLMenuItem {
+    QString itemName;  // empty for one that has no name
+    float wwidth = 0, wcenter = 0;
+    int tableID = 0;  // its position in the list, from 0
+
+    // Keys "Title", "WW" and "WC"; what is missing or no number is empty or 0.
+    static ZELWWWLMenuItem FromDictionary(const QVariantMap& dictionary);
+    [[nodiscard]] QVariantMap dictionaryToSave() const;
+};
+
+[[nodiscard]] std::vector<ZELWWWLMenuItem> loadWWWLPresets();
+// Stores the list at once; an empty one takes the stored list away. An errno when it can't be
+// written.
+QvxStatus saveWWWLPresets(const std::vector<ZELWWWLMenuItem>& presets);
