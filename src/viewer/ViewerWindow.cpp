@@ -1,5 +1,6 @@
 #include "viewer/ViewerWindow.h"
 
+#include "dicom_core/imaging/LoadFrame.h"
 #include "dicom_core/opening/PathNames.h"
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "viewer/DocumentIcon.h"
@@ -92,6 +93,10 @@ ViewerWindow::~ViewerWindow()
     // The widgets go after the members that they show.
     _view->setDelegate(nullptr);
     _list->setModel(nullptr);
+    for (int row = 0; row < _sequences.rowCount(); ++row) {
+        if (const TreeRow& shown = _sequences.treeRow(row); shown.IsSequence())
+            ForgetBufferedFrames(shown.Sequence());
+    }
 }
 
 void ViewerWindow::layOut()

@@ -53,3 +53,19 @@ bool AllCellsInBaseBuffer(dk_SequenceBase* sequence)
     }
     return true;
 }
+
+void ForgetBufferedFrames(dk_SequenceBase* sequence)
+{
+    if (!gAppBaseBuffer || !sequence)
+        return;
+    const std::int32_t frames = sequence->GetNumberOfFrames();
+    std::int32_t last = 0;
+    for (std::int32_t frame = 1; frame <= frames && gAppBaseBuffer->CountImages() > 0; ++frame) {
+        std::int32_t primary = 0, secondary = 0;
+        if (sequence->GetBaseBufferIDsForSequenceFrame(frame, &primary, &secondary) ||
+            secondary == last)
+            continue;
+        gAppBaseBuffer->DisposeImagesBySecondaryID(secondary);
+        last = secondary;
+    }
+}

@@ -24,3 +24,5 @@ inline constexpr std::uint32_t kInsertLimitShown = 3;
 [[nodiscard]] bool CheckIfCellInBaseBuffer(dk_SequenceBase* sequence, std::int32_t frame);
 // True for a sequence of no frames.
 [[nodiscard]] bool AllCellsInBaseBuffer(dk_SequenceBase* sequence);
+// Frees what the base buffer holds of the sequence's files: nobody will show them again.
+void ForgetBufferedFrames(dk_SequenceBase* sequence);

@@ -213,6 +213,8 @@ TEST(ViewerDoc, a_buffered_frame_needs_neither_file_nor_decoder)
         ASSERT_EQ(U_LoadFrameContentToViewerDoc(&made.sequence, 2, &again), kQvxOK);
         EXPECT_EQ(ShownBy(&again), (std::vector<int>{255, 255})) << "from the buffer";
         EXPECT_NE(shown, ShownBy(&again));
+        ForgetBufferedFrames(&made.sequence);
+        EXPECT_EQ(buffer.CountImages(), 0u);
         EXPECT_EQ(buffer.SetBufLimit(0), kQvxOK);  // a buffer that takes nothing
         zel_QTViewerDoc direct;
         ASSERT_EQ(U_LoadFrameContentToViewerDoc(&made.sequence, 2, &direct), kQvxOK);
