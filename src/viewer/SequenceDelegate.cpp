@@ -52,9 +52,13 @@ QImage RenderedImage(zel_QTViewerDoc* document, const QSize& size)
     if (image.isNull())
         return {};
     Port port = PortOver(&image);
-    if (document->CopyPixelsToGWorldL(&port, nullptr, nullptr, CopyMode::Replace, nullptr))
-        return {};
     const dk_ImageFrameInfo* frame = document->CurrentFrame();
+    if (const QvxStatus status =
+            document->CopyPixelsToGWorldL(&port, nullptr, nullptr, CopyMode::Replace, nullptr)) {
+        LogLine(frame->fSource->GetDataPath() +
+                ": can't be rendered: " + std::string(StatusText(status)));
+        return {};
+    }
     const IdentityTransDoc turned;
     const QvxStatus status =
         U_DrawDicomOverlays(frame->fSource, frame->fFrameInFile, &port, port.bounds,

@@ -139,7 +139,9 @@ QvxStatus FrameSetup::LimitSequence()
     if (const QvxStatus status = MergedLimits(&limits))
         return Fail(status);
     for (dk_ImageFrameInfo& info : fSequence->GetSequenceFrameInfo()->fFrames) {
-        info.fTransform.SetVOIWidthLimits(limits.minWidth, limits.maxWidth);
+        // No width is below a step of the frame's own.
+        const auto step = static_cast<float>(info.fTransform.voiInfo.pixelFactor);
+        info.fTransform.SetVOIWidthLimits(std::max(limits.minWidth, step), limits.maxWidth);
         info.fTransform.SetVOILevelLimits(limits.minLevel, limits.maxLevel);
     }
     return kQvxOK;

@@ -225,6 +225,26 @@ TEST(ViewerDoc, a_buffered_frame_needs_neither_file_nor_decoder)
     unsetenv("XDG_CACHE_HOME");
 }
 
+// Each frame of a PET series has a step of its own.
+TEST(SetupVOIBlitter, frames_of_other_steps_are_windowed_alike)
+{
+    MadeSequence made;
+    for (const char* slope : {"0.2", "0.1", "0.3", "0.15"}) {
+        DicomBuilder file = GrayFile(1, 2, 16);
+        file.Element(0x0028, 0x1050, "DS", "500").Element(0x0028, 0x1051, "DS", "1000");
+        file.Element(0x0028, 0x1052, "DS", "0").Element(0x0028, 0x1053, "DS", slope);
+        made.Add(file.NativePixels({0, 30000}));
+    }
+    for (const int frame : {1, 2, 3, 4, 1}) {
+        SCOPED_TRACE(frame);
+        zel_QTViewerDoc document;
+        EXPECT_EQ(U_LoadFrameContentToViewerDoc(&made.sequence, frame, &document), kQvxOK);
+        EXPECT_NEAR(document.GetTransformations()->voiWidth, 1000, 0.2);
+        EXPECT_NEAR(document.GetTransformations()->voiLevel, 500, 0.2);
+        EXPECT_EQ(ShownBy(&document), (std::vector<int>{0, 255}));
+    }
+}
+
 TEST(SetupVOIBlitter, a_window_reaches_frames_that_are_decoded_later)
 {
     MadeSequence made;
