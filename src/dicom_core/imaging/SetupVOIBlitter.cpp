@@ -8,6 +8,7 @@
 #include "qpix/OffscreenForFrame.h"
 #include "qpix/zelImageSource.h"
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -46,6 +47,7 @@ private:
         return status;
     }
     QvxStatus LearnMeaning();
+    void AllowStatedWindow();
     QvxStatus LimitFrame();
     QvxStatus LimitSequence();
     QvxStatus LimitsOf(const dk_ImageFrameInfo& info, UserLimits* limits) const;
@@ -73,7 +75,25 @@ QvxStatus FrameSetup::LearnMeaning()
     fFacts.pixelMinimum = known.pixelMinimum;
     fFacts.pixelMaximum = known.pixelMaximum;
     fFacts.codecLimits = known.limits;
+    AllowStatedWindow();
     return LimitFrame();
+}
+
+// A window that the file states is a right one, even where it is wider than all that the pixels
+// could be: cut to them, it would show them in other grays.
+void FrameSetup::AllowStatedWindow()
+{
+    constexpr std::int32_t kMost = 1 << 24;  // of the file's word
+    std::int32_t level = 0;
+    if (!fFacts.hasDefault || !std::isfinite(fFacts.defaultLevel) ||
+        CVOIBlitter().UserToDisplay(fFrame->fTransform, fFacts.defaultLevel, &level))
+        return;
+    zelDisplayVOILimits& limits = fFacts.codecLimits;
+    const double width = std::ceil(fFacts.defaultWidth / fFrame->fTransform.voiInfo.pixelFactor);
+    if (width > limits.maxWidth)
+        limits.maxWidth = static_cast<std::uint32_t>(std::min<double>(width, kMost));
+    limits.minLevel = std::min(limits.minLevel, std::max(level, -kMost));
+    limits.maxLevel = std::max(limits.maxLevel, std::min(level, kMost));
 }
 
 QvxStatus FrameSetup::LimitFrame()

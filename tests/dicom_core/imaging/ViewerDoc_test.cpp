@@ -3,6 +3,7 @@
 #include "dicom_core/imaging/LoadFrame.h"
 #include "dicom_core/imaging/SetupVOIBlitter.h"
 #include "dicom_core/store/TempFolder.h"
+#include "prefs/Prefs.h"
 #include "prefs/PrefsTables.h"
 #include "util/Log.h"
 
@@ -243,6 +244,19 @@ TEST(SetupVOIBlitter, frames_of_other_steps_are_windowed_alike)
         EXPECT_NEAR(document.GetTransformations()->voiLevel, 500, 0.2);
         EXPECT_EQ(ShownBy(&document), (std::vector<int>{0, 255}));
     }
+}
+
+TEST(SetupVOIBlitter, a_stated_window_may_be_wider_than_the_pixels)
+{
+    MadeSequence made;
+    DicomBuilder file = GrayFile(1, 3, 16);
+    made.Add(WithWindow(file, "30000", "100000").NativePixels({0, 30000, 65535}));
+    prefs_Set_EnhanceVOIContrast(false);
+    zel_QTViewerDoc document;
+    EXPECT_EQ(U_LoadFrameContentToViewerDoc(&made.sequence, 1, &document), kQvxOK);
+    EXPECT_EQ(document.GetTransformations()->voiWidth, 100000);
+    EXPECT_EQ(ShownBy(&document), (std::vector<int>{51, 128, 218}));  // PS3.3 C.11.2.1.2.1
+    prefs_Set_EnhanceVOIContrast(true);
 }
 
 TEST(SetupVOIBlitter, a_window_reaches_frames_that_are_decoded_later)
