@@ -13,16 +13,17 @@ constexpr std::uint16_t kFirstGroup = 0x6000, kLastGroup = 0x601E;
 constexpr std::uint16_t kRows = 0x0010, kColumns = 0x0011, kFrames = 0x0015, kType = 0x0040,
                         kOrigin = 0x0050, kFrameOrigin = 0x0051, kData = 0x3000;
 
-// A whole number of whatever numeric kind.
-QvxStatus GetNumber(QvxParserRec* reader, std::uint16_t group, std::uint16_t element,
-                    std::int32_t* number)
+// Value number `index`, a whole number of whatever kind. kQvxUnsupported for other numbers,
+// kQvxWrongVR for what is none.
+QvxStatus GetNumber(QvxParserRec* reader, std::int32_t index, std::uint16_t group,
+                    std::uint16_t element, std::int32_t* number)
 {
     QvxElementRef found{};
     QvxElementValue value;
     if (const QvxStatus status =
             Qvx2Reader_FindElement(reader, QvxElementRef::None, {group, element}, &found))
         return status;
-    if (const QvxStatus status = Qvx2Reader_GetElementDataAsValue(reader, found, 1, &value))
+    if (const QvxStatus status = Qvx2Reader_GetElementDataAsValue(reader, found, index, &value))
         return status;
     switch (value.fType) {
         case QvxNumericValueType::Int16:
@@ -37,9 +38,25 @@ QvxStatus GetNumber(QvxParserRec* reader, std::uint16_t group, std::uint16_t ele
             return kQvxOK;
         case QvxNumericValueType::Empty:
             return kQvxNoValue;
+        case QvxNumericValueType::Float32:
+        case QvxNumericValueType::Float64:
+            return kQvxUnsupported;
         default:
             return kQvxWrongVR;
     }
+}
+
+// A word that stands there as another kind of number, of IS or UL for one.
+QvxStatus GetOddWord(QvxParserRec* reader, std::int32_t index, std::uint16_t group,
+                     std::uint16_t element, std::uint16_t* word)
+{
+    std::int32_t number = 0;
+    if (const QvxStatus status = GetNumber(reader, index, group, element, &number))
+        return status;
+    if (number < INT16_MIN || number > UINT16_MAX)
+        return kQvxUnsupported;
+    *word = static_cast<std::uint16_t>(number);
+    return kQvxOK;
 }
 
 // Words of 16 bits by their wanted type; of an element with a VR of no numbers its first bytes.
@@ -49,10 +66,12 @@ QvxStatus GetWords(QvxParserRec* reader, std::uint16_t group, std::uint16_t elem
 {
     std::array<std::uint16_t, kCount> read{};
     for (std::size_t i = 0; i < kCount; ++i) {
-        const QvxStatus status =
-            Qvx2_ParserGetElementValue(reader, QvxElementRef::None, group, element,
-                                       static_cast<std::int32_t>(i + 1), wanted, &read[i]);
-        if (status != kQvxWrongVR && status != kQvxUnsupported && status != kQvxOK)
+        const auto index = static_cast<std::int32_t>(i + 1);
+        QvxStatus status = Qvx2_ParserGetElementValue(reader, QvxElementRef::None, group, element,
+                                                      index, wanted, &read[i]);
+        if (status == kQvxUnsupported)
+            status = GetOddWord(reader, index, group, element, &read[i]);
+        if (status != kQvxWrongVR && status != kQvxOK)
             return status;
         if (status == kQvxOK)
             continue;
@@ -98,7 +117,7 @@ QvxStatus LiesOnFrame(QvxParserRec* reader, std::uint16_t group, std::uint32_t f
     if (const QvxStatus status = ParserOverlayGetOverlayNumberofFrames(reader, group, &frames))
         return status;
     std::int32_t origin = 1;
-    const QvxStatus status = GetNumber(reader, group, kFrameOrigin, &origin);
+    const QvxStatus status = GetNumber(reader, 1, group, kFrameOrigin, &origin);
     if (status == kQvxNoSuchElement && frame == 1)
         origin = 1;
     else if (status)
@@ -155,7 +174,7 @@ QvxStatus ParserOverlayGetNextGroup(QvxParserRec* reader, std::uint16_t* group)
 {
     if (!reader || !group)
         return kQvxBadArgument;
-    unsigned next = *group == 0 ? kFirstGroup : *group + 2U;
+    unsigned next = *group == 0 ? kFirstGroup : (*group + 2U) & ~1U;
     for (; next <= kLastGroup; next += 2) {
         QvxElementRef found{};
         const QvxElementTag tag{static_cast<std::uint16_t>(next), kType};
@@ -217,7 +236,7 @@ QvxStatus ParserOverlayGetOverlayNumberofFrames(QvxParserRec* reader, std::uint1
     if (!reader || !count)
         return kQvxBadArgument;
     std::int32_t frames = 0;
-    const QvxStatus status = GetNumber(reader, group, kFrames, &frames);
+    const QvxStatus status = GetNumber(reader, 1, group, kFrames, &frames);
     if (status != kQvxOK && status != kQvxNoSuchElement)
         return status;
     *count = status == kQvxOK ? static_cast<std::uint32_t>(frames) : 1;
@@ -277,12 +296,12 @@ QvxStatus ParserOverlayGetImageIDsForOverlay(QvxParserRec* reader, std::uint32_t
     if (const QvxStatus status = Qvx2_ParserOverlayID2Group(reader, identifier, &group))
         return status;
     std::int32_t origin = 1, count = 1;
-    const QvxStatus status = GetNumber(reader, group, kFrameOrigin, &origin);
+    const QvxStatus status = GetNumber(reader, 1, group, kFrameOrigin, &origin);
     if (status == kQvxNoSuchElement)
         origin = 1;
     else if (status)
         return status;
-    else if (const QvxStatus counted = GetNumber(reader, group, kFrames, &count))
+    else if (const QvxStatus counted = GetNumber(reader, 1, group, kFrames, &count))
         return counted;
     try {
         std::vector<std::int32_t> numbers;
@@ -364,7 +383,7 @@ QvxStatus PlaceOfOverlay(QvxParserRec* reader, std::uint16_t group, std::uint32_
     if (found != kQvxNoSuchElement)
         return found;
     std::int32_t origin = 1;
-    if (GetNumber(reader, group, kFrameOrigin, &origin) != kQvxOK || origin < 1)
+    if (GetNumber(reader, 1, group, kFrameOrigin, &origin) != kQvxOK || origin < 1)
         origin = 1;
     QvxFrameMapRecord row;
     if (const QvxStatus status =

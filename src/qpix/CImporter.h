@@ -62,7 +62,7 @@ public:
     // Fills the offscreen with white and draws the current image under the matrix, one that does
     // more than move it by way of a clone at its natural size. kQvxUserCanceled when the user
     // stopped it, kQvxUnsupported for a matrix that turns. Mode, quality and matrix of the
-    // instance are put back.
+    // instance are put back. The colour is for graphics modes that use one; those here use none.
     [[nodiscard]] QvxStatus DrawOnOffscreen(COffscreen& offscreen, std::int32_t quality,
                                             std::int16_t mode, RGBColor color);
     // The same straight from the decoder; `codec`, if given, does it and remembers the frame.
@@ -78,11 +78,10 @@ protected:
 
 private:
     [[nodiscard]] QvxStatus DrawPlain(COffscreen& offscreen, std::int32_t quality,
-                                      std::int16_t mode, RGBColor color);
+                                      std::int16_t mode);
     [[nodiscard]] QvxStatus ReadImageKinds(std::int32_t count);
     void InjectFakeFlashPixIndexedImageInfo();
-    [[nodiscard]] QvxStatus DrawThroughClone(COffscreen& offscreen, std::int16_t mode,
-                                             RGBColor color);
+    [[nodiscard]] QvxStatus DrawThroughClone(COffscreen& offscreen, std::int16_t mode);
 
     std::unique_ptr<GraphicsImporter> fInstance;
     std::optional<ImageDescription> fImageDesc;

@@ -32,34 +32,33 @@ private:
     MatrixRecord fMatrix;
 };
 
-QvxStatus MakeWhite(COffscreen& offscreen, RGBColor foreColor)
+QvxStatus MakeWhite(COffscreen& offscreen)
 {
     Port* port = offscreen.GetGWorldPtr();
     if (!port)
         return kQvxBadArgument;
-    port->foreColor = foreColor;
+    port->foreColor = kColorBlack;
     return offscreen.FillWithColor(kColorWhite);
 }
 
 }  // namespace
 
 QvxStatus CImporter::DrawOnOffscreen(COffscreen& offscreen, std::int32_t quality, std::int16_t mode,
-                                     RGBColor color)
+                                     RGBColor /*color*/)
 {
     if (!fInstance)
         return kQvxNoImporter;
     const DrawStateScope state(*fInstance);
     if (fInstance->Matrix().IsTranslation())
-        return DrawPlain(offscreen, quality, mode, color);
+        return DrawPlain(offscreen, quality, mode);
     if (!fInstance->Matrix().KeepsRectangles())
         return kQvxUnsupported;
-    return DrawThroughClone(offscreen, mode, color);
+    return DrawThroughClone(offscreen, mode);
 }
 
-QvxStatus CImporter::DrawPlain(COffscreen& offscreen, std::int32_t quality, std::int16_t mode,
-                               RGBColor color)
+QvxStatus CImporter::DrawPlain(COffscreen& offscreen, std::int32_t quality, std::int16_t mode)
 {
-    if (const QvxStatus status = MakeWhite(offscreen, color))
+    if (const QvxStatus status = MakeWhite(offscreen))
         return status;
     fInstance->SetGraphicsMode(mode);
     fInstance->SetQuality(quality);
@@ -68,7 +67,7 @@ QvxStatus CImporter::DrawPlain(COffscreen& offscreen, std::int32_t quality, std:
     return status == kQvxDrawStopped ? kQvxUserCanceled : status;
 }
 
-QvxStatus CImporter::DrawThroughClone(COffscreen& offscreen, std::int16_t mode, RGBColor color)
+QvxStatus CImporter::DrawThroughClone(COffscreen& offscreen, std::int16_t mode)
 {
     const MatrixRecord wanted = fInstance->Matrix();
     Rect natural;
@@ -82,9 +81,9 @@ QvxStatus CImporter::DrawThroughClone(COffscreen& offscreen, std::int16_t mode, 
                                                                   natural.bottom, true, &clone))
         return status;
     fInstance->SetMatrix({});
-    if (const QvxStatus status = DrawPlain(*clone, kQualityFrame, 0, color))
+    if (const QvxStatus status = DrawPlain(*clone, kQualityFrame, 0))
         return status;
-    if (const QvxStatus status = MakeWhite(offscreen, color))
+    if (const QvxStatus status = MakeWhite(offscreen))
         return status;
     const Rect place = MapRectByMatrix(wanted, natural);
     // The plain copy, as it cuts off what the matrix puts beyond the target; its kernel is the
@@ -106,7 +105,7 @@ QvxStatus CImporter::DecompressOnOffscreen(COffscreen& offscreen,
     if (!description)
         if (const QvxStatus status = GetImageDesc(&own))
             return status;
-    if (const QvxStatus status = MakeWhite(offscreen, kColorBlack))
+    if (const QvxStatus status = MakeWhite(offscreen))
         return status;
     const DrawStateScope state(*fInstance);
     fInstance->SetGraphicsMode(mode);

@@ -25,16 +25,17 @@ struct StoredForm {
     std::uint32_t fCode;
 };
 constexpr auto kStoredForms = std::to_array<StoredForm>({
-    {"1.2.840.10008.1.2.5", FourCC("RLE ")},
-    {"1.2.840.10008.1.2.4.50", kStoredLossyJPEG},
-    {"1.2.840.10008.1.2.4.51", kStoredLossyJPEG},
-    {"1.2.840.10008.1.2.4.53", kStoredLossyJPEG},
-    {"1.2.840.10008.1.2.4.55", kStoredLossyJPEG},
-    {"1.2.840.10008.1.2.4.57", FourCC("JLSL")},
-    {"1.2.840.10008.1.2.4.70", FourCC("JLSL")},
-    {"1.2.840.10008.1.2.4.80", FourCC("JPLS")},
-    {"1.2.840.10008.1.2.4.81", FourCC("JPLN")},
-    {"1.2.840.10008.1.2.4.90", FourCC("J2KL")},
+    {"1.2.840.10008.1.2.5", FourCC("RLE ")},      {"1.2.840.10008.1.2.4.50", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.51", kStoredLossyJPEG}, {"1.2.840.10008.1.2.4.52", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.53", kStoredLossyJPEG}, {"1.2.840.10008.1.2.4.54", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.55", kStoredLossyJPEG}, {"1.2.840.10008.1.2.4.56", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.57", FourCC("JLSL")},   {"1.2.840.10008.1.2.4.58", FourCC("JLSL")},
+    {"1.2.840.10008.1.2.4.59", kStoredLossyJPEG}, {"1.2.840.10008.1.2.4.60", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.61", kStoredLossyJPEG}, {"1.2.840.10008.1.2.4.62", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.63", kStoredLossyJPEG}, {"1.2.840.10008.1.2.4.64", kStoredLossyJPEG},
+    {"1.2.840.10008.1.2.4.65", FourCC("JLSL")},   {"1.2.840.10008.1.2.4.66", FourCC("JLSL")},
+    {"1.2.840.10008.1.2.4.70", FourCC("JLSL")},   {"1.2.840.10008.1.2.4.80", FourCC("JPLS")},
+    {"1.2.840.10008.1.2.4.81", FourCC("JPLN")},   {"1.2.840.10008.1.2.4.90", FourCC("J2KL")},
     {"1.2.840.10008.1.2.4.91", FourCC("J2KY")},
 });
 

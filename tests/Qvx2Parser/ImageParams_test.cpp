@@ -39,7 +39,7 @@ DicomBuilder OverlayFile(bool big)
 {
     DicomBuilder file;
     file.Meta(big ? kUidExplicitBig : kUidExplicitLittle).CommonHeader();
-    file.Element(0x6000, 0x0010, "US", 300)
+    file.Element(0x6000, 0x0010, "IS", "300")
         .Element(0x6000, 0x0011, "US", 5)
         .Element(0x6000, 0x0015, "IS", "2")
         .Element(0x6000, 0x0040, "CS", "G")

@@ -14,17 +14,18 @@ QvxStatus U_LoadFrameContentToViewerDoc(dk_SequenceBase* sequence, std::int32_t 
         return kQvxBadArgument;
     const std::int32_t before = sequence->GetCurrentFrameIndex();
     // What is wrong with the current frame is of no matter when another one is loaded.
-    const QvxStatus bound = document->SetSequence(sequence);
+    static_cast<void>(document->SetSequence(sequence));
     const bool other = frame >= 1 && frame != before;
     if (other)
         sequence->SetCurrentFrameIndex(frame);
     const bool buffered = gAppBaseBuffer && SequenceCanUseBaseBuffer(*sequence);
     document->AttachExternalBuffer(buffered ? gAppBaseBuffer : nullptr, storePriority, insertLimit);
-    QvxStatus status = bound;
-    if (other && sequence->GetCurrentFrameIndex() != frame)
-        status = kQvxBadArgument;  // there is no such frame
-    else if (other || !bound)
-        status = document->LoadImageSource();
+    // A document that is asked for no frame that there is shows none.
+    const bool missing = other && sequence->GetCurrentFrameIndex() != frame;
+    QvxStatus status =
+        missing ? document->SetCurrentImageFrame(frame) : document->LoadImageSource();
+    if (missing && !status)
+        status = kQvxBadArgument;
     if (status)
         LogLine("ERROR from viewerDoc->LoadImageSource: " + std::to_string(status));
     document->DetachExternalBuffer();

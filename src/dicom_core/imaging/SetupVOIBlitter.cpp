@@ -4,6 +4,7 @@
 #include "dicom_core/look/WindowSetup.h"
 #include "dicom_core/tree/dk_DicomSequence.h"
 
+#include "qpix/CImporterPlus.h"
 #include "qpix/DicomCodec.h"
 #include "qpix/OffscreenForFrame.h"
 #include "qpix/zelImageSource.h"
@@ -47,6 +48,7 @@ private:
         return status;
     }
     QvxStatus LearnMeaning();
+    void LearnLook();
     void AllowStatedWindow();
     QvxStatus LimitFrame();
     QvxStatus LimitSequence();
@@ -77,6 +79,21 @@ QvxStatus FrameSetup::LearnMeaning()
     fFacts.codecLimits = known.limits;
     AllowStatedWindow();
     return LimitFrame();
+}
+
+// The curve of the file's windows, and the table that its default stands for. The importer's
+// current image is the frame.
+void FrameSetup::LearnLook()
+{
+    fFacts.hasDefault = fFrame->fSource->GetTheDefaultVOIValuesFromImporter(&fFacts.defaultWidth,
+                                                                            &fFacts.defaultLevel);
+    QvxDefaultWindow look;
+    CImporterPlus* importer = fFrame->fSource->GetImporter();
+    if (!importer || importer->GetDefaultWindow(&look))
+        return;
+    fFacts.function = look.fFunction;
+    if (fFacts.hasDefault)
+        fFacts.defaultTable = look.fTable;
 }
 
 // A window that the file states is a right one, even where it is wider than all that the pixels
@@ -188,8 +205,7 @@ QvxStatus FrameSetup::Run()
     const bool first = fFrame->fTransform.voiInfo.pixelFormat == 0;
     if (!fFrame->fSource || (fProperties & (kFrameIsSixteenBit | kFrameIsGray)) == 0)
         return Fail(kQvxBadArgument, kNoMeaning);
-    fFacts.hasDefault = fFrame->fSource->GetTheDefaultVOIValuesFromImporter(&fFacts.defaultWidth,
-                                                                            &fFacts.defaultLevel);
+    LearnLook();
     if (first)
         if (const QvxStatus status = LearnMeaning())
             return status;

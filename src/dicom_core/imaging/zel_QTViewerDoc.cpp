@@ -13,9 +13,10 @@ namespace {
 
 constexpr double kShortestSide = 32, kLongestSide = 32000;  // pixels of a zoomed frame
 
-double ScaledBy(std::int32_t length, std::int32_t ratio)
+// As the size of a frame's cell is counted: 16.16, cut off.
+std::int32_t Cut(std::int64_t length)
 {
-    return length * (static_cast<double>(ratio) / kZoomOne);
+    return static_cast<std::int32_t>(std::min<std::int64_t>(length, INT32_MAX));
 }
 
 }  // namespace
@@ -114,20 +115,26 @@ std::int32_t zel_QTViewerDoc::GetHeight() const
     return fStatus >= kDocImported && fExported ? fExported->Height() : 0;
 }
 
+// Of the frame as it is shown: turned or not.
+std::int32_t zel_QTViewerDoc::AspectRatio() const
+{
+    if (!fFrame)
+        return kZoomOne;
+    return fShown.geometry ? fFrame->GetDisplayedPixelAspectRatio() : fFrame->GetPixelAspectRatio();
+}
+
 std::int32_t zel_QTViewerDoc::GetEffectiveWidth() const
 {
-    const std::int32_t ratio = fFrame ? fFrame->GetDisplayedPixelAspectRatio() : kZoomOne;
+    const std::int32_t ratio = AspectRatio();
     if (ratio <= 0 || ratio >= kZoomOne)
         return GetWidth();
-    return static_cast<std::int32_t>(
-        std::lround(GetWidth() / (static_cast<double>(ratio) / kZoomOne)));
+    return Cut((std::int64_t{GetWidth()} << 16) / ratio);
 }
 
 std::int32_t zel_QTViewerDoc::GetEffectiveHeight() const
 {
-    const std::int32_t ratio = fFrame ? fFrame->GetDisplayedPixelAspectRatio() : kZoomOne;
-    return ratio <= kZoomOne ? GetHeight()
-                             : static_cast<std::int32_t>(std::lround(ScaledBy(GetHeight(), ratio)));
+    const std::int32_t ratio = AspectRatio();
+    return ratio <= kZoomOne ? GetHeight() : Cut((std::int64_t{GetHeight()} * ratio) >> 16);
 }
 
 QvxStatus zel_QTViewerDoc::GetOriginalBounds(Rect* bounds) const

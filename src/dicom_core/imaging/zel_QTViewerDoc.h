@@ -16,6 +16,7 @@
 #include "pixels/zel_Offscreen.h"
 
 #include "qpix/DicomCodec.h"
+#include <functional>
 #include <memory>
 
 class CImporterPlus;
@@ -125,6 +126,8 @@ private:
     [[nodiscard]] bool IsDicomGray() const;
     [[nodiscard]] zel_TransformRec ShownRecord() const;  // of the frame, less the edits not shown
     [[nodiscard]] QvxStatus FallBack(QvxStatus status);
+    [[nodiscard]] QvxStatus Step(const std::function<QvxStatus()>& step);
+    [[nodiscard]] std::int32_t AspectRatio() const;
     [[nodiscard]] QvxStatus DrawOnOffscreenViaBuffer();
     [[nodiscard]] bool DrawFromBuffer(std::int32_t primary, std::int32_t secondary);
     void StoreInBuffer(std::int32_t primary, std::int32_t secondary);

@@ -10,6 +10,7 @@
 #include "pixels/OffscreenFactory.h"
 
 #include "qpix/OffscreenForFrame.h"
+#include "qpix/zelImageSource.h"
 #include <new>
 #include <tuple>
 
@@ -22,26 +23,34 @@ QvxStatus zel_QTViewerDoc::ImportCurrentSeqFrame()
     fFlags.Detach(fImported.get());
     DisposeOffsreen(&fImported);
     fExported = nullptr;
-    try {
+    return Step([this]() -> QvxStatus {
         Point size;
         if (const QvxStatus status = fFrame->GetFrameSize(&size))
-            return FallBack(status);
+            return status;
         const std::int32_t image = fFrame->fFrameInFile;
         if (image < 1)
-            return FallBack(kQvxBadArgument);
+            return kQvxBadArgument;
         if (const QvxStatus status = fImporter->SetCurrentImage(image))
-            return FallBack(status);
+            return status;
         const Rect bounds{0, 0, size.v, size.h};
         if (const QvxStatus status =
                 U_NewOffscreenForFrame(*fImporter, image, &fImported, &bounds, &fProperties))
-            return FallBack(status);
+            return status;
         if (const QvxStatus status = fImported->SaveColorTable())
-            return FallBack(status);
+            return status;
         if (const QvxStatus status = UpdateImportedOffscreen())
-            return FallBack(status);
+            return status;
         if (const QvxStatus status = SetupVOIBlitter())
-            return FallBack(status);
-        return FallBack(UpdateExportedOffscreen());
+            return status;
+        return UpdateExportedOffscreen();
+    });
+}
+
+// A step that fails leaves a document that shows nothing, but still knows its frame.
+QvxStatus zel_QTViewerDoc::Step(const std::function<QvxStatus()>& step)
+{
+    try {
+        return FallBack(step());
     } catch (const std::bad_alloc&) {
         return FallBack(kQvxNoMemory);
     }
@@ -51,14 +60,16 @@ QvxStatus zel_QTViewerDoc::UpdateImportedOffscreen()
 {
     if (fStatus < kDocFrameSelected || !fImported)
         return kQvxBadArgument;
-    fFlags.Attach(fImported.get(), 0);
-    if (const QvxStatus status = fImported->RestoreColorTable())
-        return status;
-    if (const QvxStatus status = DrawOnOffscreenViaBuffer())
-        return status;
-    fStatus = kDocImported;
-    fExported = fImported.get();
-    return ApplyTransformations();
+    return Step([this]() -> QvxStatus {
+        fFlags.Attach(fImported.get(), 0);
+        if (const QvxStatus status = fImported->RestoreColorTable())
+            return status;
+        if (const QvxStatus status = DrawOnOffscreenViaBuffer())
+            return status;
+        fStatus = kDocImported;
+        fExported = fImported.get();
+        return ApplyTransformations();
+    });
 }
 
 bool zel_QTViewerDoc::IsDicomGray() const
@@ -68,10 +79,10 @@ bool zel_QTViewerDoc::IsDicomGray() const
 
 QvxStatus zel_QTViewerDoc::DrawOnOffscreenViaBuffer()
 {
-    std::int32_t primary = 0, secondary = 0;
-    if (!fBuffer || fSequence->GetBaseBufferIDsForSequenceFrame(fSequence->GetCurrentFrameIndex(),
-                                                                &primary, &secondary))
+    if (!fBuffer || !fFrame->fSource)
         return DrawOnOffscreen();
+    // The document's frame need not be the sequence's current one.
+    const std::int32_t primary = fFrame->fFrameInFile, secondary = fFrame->fSource->SourceID();
     if (DrawFromBuffer(primary, secondary))
         return kQvxOK;
     if (const QvxStatus status = DrawOnOffscreen())

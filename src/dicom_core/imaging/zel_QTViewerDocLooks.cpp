@@ -27,9 +27,10 @@ std::uint32_t GrayOf(const ColorSpec& entry)
 
 QvxStatus zel_QTViewerDoc::UpdateExportedOffscreen()
 {
-    if (const QvxStatus status = PrepareExportedOffscreen())
-        return status;
-    return ImportedToExportedOffscreenSync();
+    return Step([this] {
+        const QvxStatus status = PrepareExportedOffscreen();
+        return status ? status : ImportedToExportedOffscreenSync();
+    });
 }
 
 QvxStatus zel_QTViewerDoc::PrepareExportedOffscreen()
@@ -130,6 +131,8 @@ QvxStatus zel_QTViewerDoc::EnforceCTable(const ColorTable& table)
     const QvxStatus status = EnforceColorTable(fExported->GetGWorldPtr(), table);
     if (status) {
         fExported = nullptr;
+        fFlags.Detach(fImported.get());
+        fFlags.Detach(fVOIBack.get());
         fImported.reset();
         fVOIBack.reset();
     }

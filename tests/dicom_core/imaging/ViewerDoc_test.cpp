@@ -8,6 +8,7 @@
 #include "util/Log.h"
 
 #include "qpix/OffscreenForFrame.h"
+#include <cmath>
 
 namespace {
 
@@ -256,6 +257,39 @@ TEST(SetupVOIBlitter, a_stated_window_may_be_wider_than_the_pixels)
     EXPECT_EQ(U_LoadFrameContentToViewerDoc(&made.sequence, 1, &document), kQvxOK);
     EXPECT_EQ(document.GetTransformations()->voiWidth, 100000);
     EXPECT_EQ(ShownBy(&document), (std::vector<int>{51, 128, 218}));  // PS3.3 C.11.2.1.2.1
+    prefs_Set_EnhanceVOIContrast(true);
+}
+
+// PS3.3 C.11.2.1.3 and C.11.2.1.1: the curve of a file's windows, and a table in place of one.
+TEST(SetupVOIBlitter, a_file_may_ask_for_a_curve_or_a_table)
+{
+    prefs_Set_EnhanceVOIContrast(false);
+    for (const int bits : {16, 8}) {
+        SCOPED_TRACE(bits);
+        MadeSequence made;
+        DicomBuilder sigmoid = GrayFile(1, 3, bits), table = GrayFile(1, 3, bits);
+        WithWindow(sigmoid, "100", "80").Element(0x0028, 0x1056, "CS", "SIGMOID");
+        const auto add = [&](DicomBuilder* file) {
+            made.Add(bits == 8 ? file->NativePixels(std::string("\x3C\x64\x8C\x00", 4), "OB")
+                               : file->NativePixels({60, 100, 140}));
+        };
+        add(&sigmoid);
+        Item steps;  // 0 below 110, then all
+        std::string entries;
+        for (int i = 0; i < 200; ++i)
+            entries += std::string(i < 110 ? "\0\0" : "\xFF\0", 2);
+        steps.Element(0x0028, 0x3002, "US", std::string("\xC8\0\0\0\x08\0", 6))
+            .Element(0x0028, 0x3006, "OW", entries);
+        table.Sequence(0x0028, 0x3010, {steps});
+        add(&table);
+        zel_QTViewerDoc document;
+        ASSERT_EQ(U_LoadFrameContentToViewerDoc(&made.sequence, 1, &document), kQvxOK);
+        const std::vector<int> curved = ShownBy(&document);
+        for (std::size_t i = 0; i < 3; ++i)
+            EXPECT_NEAR(curved[i], 255 / (1 + std::exp(-4 * (40.0 * i - 40) / 80)), 1) << i;
+        ASSERT_EQ(U_LoadFrameContentToViewerDoc(&made.sequence, 2, &document), kQvxOK);
+        EXPECT_EQ(ShownBy(&document), (std::vector<int>{0, 0, 255}));
+    }
     prefs_Set_EnhanceVOIContrast(true);
 }
 
