@@ -10,7 +10,7 @@
 
 // 0 to 8, row by row from the top left corner; -1 for a name that is none.
 [[nodiscard]] std::int32_t positionValue(const QString& name);
-// 1 current frame, 2 frame of all frames, 3 window, 4 zoom; 0 for a name that is none.
+// 1 frame counter, 2 number of frames, 3 window, 4 zoom; 0 for a name that is none.
 [[nodiscard]] std::int32_t annotationTypeValue(const QString& name);
 
 // Each begins with the list's defaults; the entry overrides what it holds.
