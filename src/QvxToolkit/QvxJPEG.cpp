@@ -126,8 +126,12 @@ QvxStatus DecodeCutByModule(const QvxJPEGHeader& header, bool turn,
                             std::span<const std::uint8_t> stream, QvxBytes* samples, bool* cut,
                             std::string* why)
 {
-    const QvxStatus status = DecodeByModule(header, turn, stream, samples, cut, why);
-    if (status || !*cut || QvxHasJPEGEnd(stream) || !MayHoldBack(header, *samples))
+    QvxStatus status = DecodeByModule(header, turn, stream, samples, cut, why);
+    if (status || !*cut)
+        return status;
+    std::ranges::fill(*samples, std::uint8_t{0});  // the block was in use: what is missing is 0
+    status = DecodeByModule(header, turn, stream, samples, cut, why);
+    if (status || QvxHasJPEGEnd(stream) || !MayHoldBack(header, *samples))
         return status;
     QvxBytes ended(stream.begin(), stream.end());
     ended.insert(ended.end(), {0xFF, 0xD9});
@@ -186,12 +190,12 @@ QvxStatus QvxDecodeJPEG(const QvxFrameRecord& record, const QvxStream& stream, D
                                header.IsDCT()};
     if (const QvxStatus status = CheckHeader(record, header, facts, stream.fBytes.size(), why))
         return status;
-    QvxBytes samples =
-        QvxTakeBlock(frame, record.Pixels() * facts.fSamples * QvxSampleBytes(facts.fPrecision));
+    const std::size_t bytes = record.Pixels() * facts.fSamples * QvxSampleBytes(facts.fPrecision);
     const bool ybr = header.IsDCT() && HoldsYBR(record, header);
     // Where the plain library would read the colours otherwise, the module does as it is told.
     const bool plain = header.IsDCT() && header.fPrecision == 8 &&
                        (header.fComponents == 1 || TurboTakesYBR(header) == ybr);
+    QvxBytes samples = plain ? QvxTakeBlock(frame, bytes) : QvxTakeUsedBlock(frame, bytes);
     bool cut = false;
     const QvxStatus status =
         plain ? DecodeByTurbo(header, stream.Bytes(), &samples, &cut, why)
