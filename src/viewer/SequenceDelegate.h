@@ -3,7 +3,7 @@
 // Main thread only.
 #pragma once
 #include "app/views/MUPhotoViewDelegate.h"
-#include "viewer/RecentItems.h"
+#include "util/RecentItems.h"
 
 #include <QSizeF>
 #include <string>

@@ -2,7 +2,7 @@
 // cells that show and nothing else; scrolls by whole rows. Keys are left to whoever owns the view.
 // View coordinates are those of the whole matrix, scrolled or not. Main thread only.
 #pragma once
-#include "app/views/MUPhotoMatrix.h"
+#include "app/grid/MUPhotoMatrix.h"
 #include "app/views/MUPhotoViewDelegate.h"
 #include "app/views/WheelSteps.h"
 

@@ -132,7 +132,6 @@ private:
     [[nodiscard]] bool DrawFromBuffer(std::int32_t primary, std::int32_t secondary);
     void StoreInBuffer(std::int32_t primary, std::int32_t secondary);
     [[nodiscard]] QvxStatus DrawOnOffscreen();
-    [[nodiscard]] QvxStatus DrawThroughCodec();
     [[nodiscard]] QvxStatus SetupVOIBlitter();
     [[nodiscard]] QvxStatus ApplyTransformations();
     [[nodiscard]] QvxStatus DoTransform(Turn turn);

@@ -1,5 +1,6 @@
 // How a frame gets into the imported offscreen: from the buffer or from its file, then turned.
 #include "dicom_core/imaging/BufferedFacts.h"
+#include "dicom_core/imaging/DecodeFrame.h"
 #include "dicom_core/imaging/SetupVOIBlitter.h"
 #include "dicom_core/imaging/zel_QTViewerDoc.h"
 #include "dicom_core/look/ImageTransformer.h"
@@ -72,10 +73,7 @@ QvxStatus zel_QTViewerDoc::UpdateImportedOffscreen()
     });
 }
 
-bool zel_QTViewerDoc::IsDicomGray() const
-{
-    return (fProperties & (kFrameIsDicom | kFrameIsGray)) == (kFrameIsDicom | kFrameIsGray);
-}
+bool zel_QTViewerDoc::IsDicomGray() const { return IsDicomGrayFrame(fProperties); }
 
 QvxStatus zel_QTViewerDoc::DrawOnOffscreenViaBuffer()
 {
@@ -106,57 +104,19 @@ bool zel_QTViewerDoc::DrawFromBuffer(std::int32_t primary, std::int32_t secondar
 // A frame that can't be kept is shown all the same.
 void zel_QTViewerDoc::StoreInBuffer(std::int32_t primary, std::int32_t secondary)
 {
-    ImageInsertionParams params;
-    params.source = fImported->GetGWorldPtr();
-    params.primaryID = primary;
-    params.secondaryID = secondary;
-    params.storagePriority = fStorePriority;
-    params.makeRoomLimit = fInsertLimit;
-    if (fBuffer->UpdateImage(params) || !IsDicomGray())
-        return;
     zelDPIFRecord facts;
-    if (FactsFromCodec(*GetDicomCodec(), fProperties, &facts) == kQvxOK)
-        std::ignore = StoreBufferedFacts(fBuffer, primary, secondary, facts);
+    const bool known =
+        IsDicomGray() && FactsFromCodec(*GetDicomCodec(), fProperties, &facts) == kQvxOK;
+    std::ignore = StoreDecodedFrame(fBuffer, fImported.get(), primary, secondary, fStorePriority,
+                                    fInsertLimit, known ? &facts : nullptr);
 }
 
 QvxStatus zel_QTViewerDoc::DrawOnOffscreen()
 {
     if (fStatus < kDocFrameSelected)
         return kQvxBadArgument;
-    if (!IsDicomGray())
-        return fImporter->DrawOnOffscreen(*fImported, kQualityFrame, 0, kColorBlack);
-    return DrawThroughCodec();
-}
-
-QvxStatus zel_QTViewerDoc::DrawThroughCodec()
-{
-    DicomCodec* codec = GetDicomCodec();
-    const ImageDescription* described = nullptr;
-    if (const QvxStatus status = fImporter->GetImageDesc(&described))
-        return status;
-    const ImageDescription description = *described;  // the importer's own may be dropped meanwhile
-    codec->SetHints(kCodecHintsFrame);
-    const int dw = fImported->Width() - description.fWidth;
-    const int dh = fImported->Height() - description.fHeight;
-    if ((dw < 0 && dh <= 0) || (dh < 0 && dw <= 0))
-        return kQvxBadArgument;
-    MatrixRecord before;
-    if (const QvxStatus status = fImporter->GetMatrix(&before))
-        return status;
-    const bool fits = (dw > 0 && dh >= 0) || (dh > 0 && dw >= 0);
-    if (fits) {
-        const Rect image{0, 0, description.fHeight, description.fWidth};
-        const Rect place = FitRectScaledProp(image, fImported->GetGWorldPtr()->bounds, true);
-        if (const QvxStatus status = SetQTGWorldBits(fImported->GetGWorldPtr(), 0))
-            return status;
-        if (const QvxStatus status = fImporter->SetBounds(place))
-            return status;
-    }
-    const QvxStatus status = fImporter->DecompressOnOffscreenEx(
-        *fImported, &description, kQualityFrame, 0, codec, nullptr, nullptr);
-    if (fits)
-        std::ignore = fImporter->SetMatrix(before);
-    return status;
+    return DecodeFrame(fImporter, fProperties, IsDicomGray() ? GetDicomCodec() : nullptr,
+                       fImported.get());
 }
 
 QvxStatus zel_QTViewerDoc::SetupVOIBlitter()

@@ -1,6 +1,6 @@
 // Where cells lie: partly filled rows, cells at fractions of points, gaps, and far down a long
 // list.
-#include "app/views/MUPhotoMatrix.h"
+#include "app/grid/MUPhotoMatrix.h"
 
 #include <gtest/gtest.h>
 

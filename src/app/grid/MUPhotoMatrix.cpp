@@ -1,4 +1,4 @@
-#include "app/views/MUPhotoMatrix.h"
+#include "app/grid/MUPhotoMatrix.h"
 
 #include "util/Log.h"
 

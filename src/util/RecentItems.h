@@ -32,6 +32,17 @@ public:
             Drop(std::prev(fItems.end()));
         return &fItems.front().value;
     }
+    void Remove(const Key& key)  // nothing when it isn't kept
+    {
+        if (const auto found = fWhere.find(key); found != fWhere.end())
+            Drop(found->second);
+    }
+    void Clear()
+    {
+        fItems.clear();
+        fWhere.clear();
+        fBytes = 0;
+    }
     [[nodiscard]] std::size_t Bytes() const { return fBytes; }
 
 private:
