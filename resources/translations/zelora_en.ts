@@ -4,6 +4,11 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>ff of nn</source>
+        <translatorcomment>%1: number of the frame, %2: number of frames</translatorcomment>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
         <source>progrOpenOpening</source>
         <translatorcomment>a name and three points follow</translatorcomment>
         <translation>Opening </translation>
@@ -235,6 +240,16 @@
 </context>
 <context>
     <name>Measurements</name>
+    <message>
+        <source>kGlobalMeasPrefix</source>
+        <translatorcomment>stands before the title of a measurement that is on every frame</translatorcomment>
+        <translation>All frames: </translation>
+    </message>
+    <message>
+        <source>kMeasDisplayTitle</source>
+        <translatorcomment>%1: letter of the kind, %2: number, %3: measured value</translatorcomment>
+        <translation>%1%2: %3</translation>
+    </message>
     <message>
         <source>kRegionUnitStr_none</source>
         <translatorcomment>unit of a region's axis</translatorcomment>
