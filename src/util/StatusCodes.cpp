@@ -23,6 +23,7 @@ constexpr auto kWords = std::to_array<StatusWords>({
     { kQvxNoMemory,        "not enough memory" },
     { kQvxNullHandle,      "missing memory block" },
     { kQvxUserCanceled,    "cancelled" },
+    { kQvxLockFailed,      "the pixels can't be had" },
     { kQvxNotOfKind,       "not a DICOM file" },
     { kQvxNoMovie,         "no movie can be made of it" },
     { kQvxNoDataRefType,   "missing data reference type" },

@@ -17,6 +17,8 @@ inline constexpr QvxStatus kQvxNoMemory = -108;
 inline constexpr QvxStatus kQvxNullHandle = -109;
 inline constexpr QvxStatus kQvxUserCanceled = -128;
 
+inline constexpr QvxStatus kQvxLockFailed = -623;  // pixels that can't be had
+
 inline constexpr QvxStatus kQvxNotOfKind = -2008;  // not the kind of file it was taken for
 inline constexpr QvxStatus kQvxNoMovie = -2010;
 inline constexpr QvxStatus kQvxNoDataRefType = -2012;

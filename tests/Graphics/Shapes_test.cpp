@@ -44,6 +44,15 @@ public:
 struct Grid : ShapeSurroundings {
     double U_ImageZoomForFrame(std::int32_t) const override { return zoom; }
     bool isTheActiveGrid() const override { return true; }
+    bool pixelColorInfoForPoint(const QPointF&, std::int32_t, CKPixelInfo*) override
+    {
+        return false;
+    }
+    QvxStatus iteratePixelInRect(const QRectF&, std::int32_t, const CKPixelVisitor&,
+                                 CKMetricsParams*) override
+    {
+        return kQvxBadArgument;
+    }
     double zoom = 1;
 };
 

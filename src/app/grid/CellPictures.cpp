@@ -61,6 +61,7 @@ CellPictures::~CellPictures() = default;
 void CellPictures::setSequence(dk_SequenceBase* sequence)
 {
     removeAll();
+    _ahead.Forget();
     _sequence = sequence;
 }
 
@@ -130,6 +131,7 @@ bool CellPictures::updateDocument(std::int32_t frame, dk_ImageFrameInfo* info)
     } else {
         _document = std::make_unique<zel_QTViewerDoc>();
         _documentFrame = frame;
+        _ahead.Collect(_sequence, frame);
         status = U_LoadFrameContentToViewerDoc(_sequence, frame, _document.get());
     }
     _documentLook = lookOf(*info);

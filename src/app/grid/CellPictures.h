@@ -3,6 +3,7 @@
 // and is made anew when the frame looks otherwise. Main thread only.
 #pragma once
 #include "app/grid/CellGeometry.h"
+#include "dicom_core/imaging/DecodeAhead.h"
 #include "prefs/PrefsColors.h"
 #include "util/RecentItems.h"
 
@@ -40,6 +41,9 @@ public:
     // What is kept of the frame, of whatever look and size, for where it lies now; null if nothing.
     [[nodiscard]] CellPhoto fastPhoto(std::int32_t frame, const CellGeometry& geometry);
 
+    // Frames that will be wanted soon, the next one first: decoded meanwhile, on another thread.
+    void prepare(std::span<const std::int32_t> frames) { _ahead.Request(_sequence, frames); }
+
     void remove(std::int32_t frame);
     void removeAll();
     [[nodiscard]] std::size_t bytes() const { return _kept.Bytes(); }
@@ -75,4 +79,5 @@ private:
     std::int32_t _documentFrame = 0, _failedFrame = 0;
     Look _documentLook;
     std::int64_t _rendered = 0;
+    DecodeAhead _ahead;
 };

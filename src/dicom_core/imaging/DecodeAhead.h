@@ -5,6 +5,8 @@
 #include "dicom_core/look/zelDPIFRecord.h"
 #include "pixels/zel_Offscreen.h"
 
+#include "qpix/DicomCodec.h"
+#include "qpix/zelImageSource.h"
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
@@ -14,9 +16,7 @@
 #include <span>
 #include <thread>
 
-class DicomCodec;
 class dk_SequenceBase;
-class zelImageSource;
 
 class DecodeAhead {
 public:

@@ -1,7 +1,7 @@
 // Which frames of a sequence are localizers: scout images that others are planned on.
 #include "dicom_core/tree/dk_DicomSequence.h"
 #include "dicom_core/tree/dk_ImageFile.h"
-#include "dicom_core/values/ParserSpatial.h"
+#include "dicom_core/values/FrameGroups.h"
 
 #include <algorithm>
 
@@ -61,8 +61,10 @@ bool dk_Sequence::HasLocalizerSpatialData()
 {
     if (!Modality_SupportsLocalizers(GetModality()))
         return false;
-    const zelParserVisit visit(GetCurrentSource());
-    return visit.Parser() && Parser_HasSpatialLocationFields(visit.Parser());
+    const dk_ImageFrameInfo* frame = GetImageFrameInfo(GetCurrentFrameIndex());
+    const zelParserVisit visit(frame ? frame->fSource : nullptr);
+    return visit.Parser() &&
+           Parser_HasSpatialLocationFields(zelFrameGroups(visit.Parser()), frame->fFrameInFile);
 }
 
 void dk_Sequence::CountInSequenceLocalizerFrames()

@@ -184,6 +184,10 @@ QvxStatus PlaneOfElements(ParserHandle parser, const zelPlaneElements& elements,
     static_cast<void>(PlanePosition(parser, elements.fPosition, &plane->fPosition[0],
                                     &plane->fPosition[1], &plane->fPosition[2]));
     static_cast<void>(PlaneDimensions(parser, elements.fSpacing, &plane->fFirst, &plane->fSecond));
+    if (CheckCount(parser, elements.fSpacing, 2) == kQvxOK) {
+        plane->fRowSpacing = DecimalOf(parser, elements.fSpacing, 1);
+        plane->fColumnSpacing = DecimalOf(parser, elements.fSpacing, 2);
+    }
     plane->fExtent1 = rows * static_cast<double>(plane->fSecond);
     plane->fExtent2 = columns * static_cast<double>(plane->fFirst);
     return PlaneCosines(parser, elements.fOrientation, &plane->fCosines);

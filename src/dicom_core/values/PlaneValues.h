@@ -25,6 +25,8 @@ struct zelPlane {
     std::array<double, 3> fPosition{};  // of the first pixel's centre
     float fFirst = 0, fSecond = 0;      // pixel dimensions, see Parser_GetPixelDimensions
     double fExtent1 = 0, fExtent2 = 0;  // rows x second, columns x first
+    // Pixel Spacing as it is stated: between rows, and between columns. 0 unknown.
+    double fRowSpacing = 0, fColumnSpacing = 0;
 };
 
 // Elements of the top level.
