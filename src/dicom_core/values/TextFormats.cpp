@@ -83,6 +83,20 @@ int Part(std::string_view text, std::size_t start, std::size_t count)
     return start < text.size() ? QvxDecimalToInt(text.substr(start, count)) : 0;
 }
 
+// `unit` is 10 to the power of `decimals`.
+void FixNumericText(std::string* text, int decimals, double unit)
+{
+    const std::size_t start = text->find_first_not_of(" +-.");
+    if (start == std::string::npos || (*text)[start] < '0' || (*text)[start] > '9')
+        return;
+    const double number = QvxDecimalToDouble(*text);
+    const bool whole = std::trunc(number) * unit == std::trunc(number * unit);
+    char digits[400];  // the longest double without an exponent has 309 and its decimals
+    const auto end = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed,
+                                   whole ? 0 : decimals);
+    text->assign(digits, end.ptr);
+}
+
 }  // namespace
 
 std::string ParserUtil_FormatDateString(std::string_view date)
@@ -132,15 +146,6 @@ bool DCM_DecodeTransferSyntax(std::string_view uid, std::string* output)
     return Decode(kUIDs, uid, output);
 }
 
-void FixNumericTextTo2Decimals(std::string* text)
-{
-    const std::size_t start = text->find_first_not_of(" +-.");
-    if (start == std::string::npos || (*text)[start] < '0' || (*text)[start] > '9')
-        return;
-    const double number = QvxDecimalToDouble(*text);
-    const bool whole = std::trunc(number) * 100 == std::trunc(number * 100);
-    char digits[400];  // the longest double without an exponent has 309 and its decimals
-    const auto end = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed,
-                                   whole ? 0 : 2);
-    text->assign(digits, end.ptr);
-}
+void FixNumericTextTo2Decimals(std::string* text) { FixNumericText(text, 2, 100); }
+
+void FixNumericTextTo1Dec(std::string* text) { FixNumericText(text, 1, 10); }

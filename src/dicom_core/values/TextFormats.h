@@ -28,3 +28,5 @@ bool DCM_DecodeTransferSyntax(std::string_view uid, std::string* output);
 // The number that the text begins with, without decimals if the first two are 0, else with two of
 // them: "5.000" becomes "5", "2.5" becomes "2.50". Text that holds no number stays.
 void FixNumericTextTo2Decimals(std::string* text);
+// The same with one decimal: "12.0" becomes "12", "12.54" becomes "12.5".
+void FixNumericTextTo1Dec(std::string* text);

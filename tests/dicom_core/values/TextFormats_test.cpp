@@ -87,6 +87,13 @@ TEST(TextFormats, numbers_keep_two_decimals_or_none)
         FixNumericTextTo2Decimals(&text);
         EXPECT_EQ(text, row[1]) << row[0];
     }
+    const char* const shorter[][2] = {
+        {"12.5", "12.5"}, {"-30.00", "-30"}, {"12.54", "12.5"}, {"12.04", "12"}, {"LAO", "LAO"}};
+    for (const auto& row : shorter) {
+        std::string text = row[0];
+        FixNumericTextTo1Dec(&text);
+        EXPECT_EQ(text, row[1]) << row[0];
+    }
 }
 
 TEST(TextFormats, unknown_codes_leave_the_output_alone)
