@@ -36,17 +36,22 @@ AnnotationLayout::AnnotationLayout(const Rect& cell, const AnnotationEdges& edge
     const std::int32_t left = cell.left + n + 3, right = cell.right - n - 1;
     const std::int32_t middleX = cell.left + fWidth / 2, middleY = -(cell.top + fHeight / 2);
     // The first lines of the two upper corners stand two pixels apart, which is meant.
+    const std::int32_t belowTop = -(cell.top + edges.top) - kGap / 2;
+    const std::int32_t aboveBottom = -(cell.bottom - edges.bottom) + kGap;
+    const std::int32_t besideLeft = cell.left + edges.left + kGap;
+    const std::int32_t besideRight = cell.right - edges.right - kGap;
     // clang-format off
     fAnchors = {{
-        {TopLeft,      3 - top,                             left,                            FromLeft,  false, false},
-        {TopRight,     1 - top,                             right,                           FromRight, false, false},
-        {BottomLeft,   5 - bottom,                          left,                            FromLeft,  true,  false},
-        {BottomRight,  5 - bottom,                          right,                           FromRight, true,  false},
-        {TopCenter,    -(cell.top + edges.top) - kGap / 2,  middleX,                         Centred,   false, true},
-        {BottomCenter, -(cell.bottom - edges.bottom) + kGap, middleX,                        Centred,   true,  true},
-        {LeftCenter,   middleY,                             cell.left + edges.left + kGap,   FromLeft,  false, true},
-        {RightCenter,  middleY,                             cell.right - edges.right - kGap, FromRight, false, true},
-        {None,         middleY,                             middleX,                         Centred,   false, true},
+        // position    next y        x            at x       upward held
+        {TopLeft,      3 - top,      left,        FromLeft,  false, false},
+        {TopRight,     1 - top,      right,       FromRight, false, false},
+        {BottomLeft,   5 - bottom,   left,        FromLeft,  true,  false},
+        {BottomRight,  5 - bottom,   right,       FromRight, true,  false},
+        {TopCenter,    belowTop,     middleX,     Centred,   false, true},
+        {BottomCenter, aboveBottom,  middleX,     Centred,   true,  true},
+        {LeftCenter,   middleY,      besideLeft,  FromLeft,  false, true},
+        {RightCenter,  middleY,      besideRight, FromRight, false, true},
+        {None,         middleY,      middleX,     Centred,   false, true},
     }};
     // clang-format on
 }
@@ -60,7 +65,7 @@ bool AnnotationLayout::Fits(double width, double height) const
 AnnotationBox AnnotationLayout::Place(TextPosition position, double width, double height)
 {
     const auto w = static_cast<std::int32_t>(width), h = static_cast<std::int32_t>(height);
-    auto* const found = std::ranges::find(fAnchors, position, &Anchor::fPosition);
+    const auto found = std::ranges::find(fAnchors, position, &Anchor::fPosition);
     Anchor& anchor = found != fAnchors.end() ? *found : fAnchors.back();
     AnnotationBox box;
     box.left = anchor.fX;

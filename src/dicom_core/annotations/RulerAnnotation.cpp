@@ -11,6 +11,7 @@
 namespace {
 
 constexpr std::int32_t kLeastLength = 129;  // of the edge
+constexpr std::int16_t kMargin = 8;
 constexpr double kMajorTick = 6.0, kMinorTick = 3.0;
 constexpr double kEdgePart = 2.5;  // the bar's span is the edge over this
 
@@ -80,7 +81,7 @@ void SetPen(QPainter& painter, const ZELRGBColor& color)
 
 }  // namespace
 
-RulerAnnotation::RulerAnnotation() { fVertMargin = fHorzMargin = 8; }
+RulerAnnotation::RulerAnnotation() { fVertMargin = fHorzMargin = kMargin; }
 
 void RulerAnnotation::DrawSelf(const AnnotationBox&, const QString&, const AnnotatedFrame& frame,
                                QPainter& painter) const
@@ -149,16 +150,15 @@ void RulerAnnotation::DrawVerticalScale(const Rect& cell, QPainter& painter, dou
 
 AnnotationEdges RulerAnnotation::EdgesTakenBy(const AnnotatedFrame& frame, const QPainter& painter)
 {
-    const RulerAnnotation ruler;
     const FrameScale scale = ScaleOfFrame(frame);
     const Rect& cell = frame.fCell;
     const QRectF letter = BoundsOfW(painter);
     AnnotationEdges taken;
     if (IsDrawn(cell.right - cell.left, scale.horizontal, scale.zoom))
         taken.bottom = static_cast<std::int32_t>(
-            std::ceil(1.3 * letter.height() + ruler.fVertMargin + 2.0 + kMajorTick));
+            std::ceil(1.3 * letter.height() + kMargin + 2.0 + kMajorTick));
     if (IsDrawn(cell.bottom - cell.top, scale.vertical, scale.zoom))
-        taken.right = static_cast<std::int32_t>(
-            std::ceil(ruler.fHorzMargin + letter.width() - 3.0 + 1.0 + kMajorTick));
+        taken.right =
+            static_cast<std::int32_t>(std::ceil(kMargin + letter.width() - 3.0 + 1.0 + kMajorTick));
     return taken;
 }

@@ -35,21 +35,21 @@ constexpr auto kScaleRows = std::to_array<ScaleRow>({
 struct UnitRow {
     RulerUnitType fUnit;
     double fLength_cm;
-    const char* fLabel;
+    const char* fBehindCount;
 };
 constexpr auto kUnitRows = std::to_array<UnitRow>({
-    { HundredMicrometres,   0.01, "%100 micros" },  // two zeros behind the count
-    { Millimetre,           0.1,  "%1 mm"       },
-    { Centimetre,           1.0,  "%1 cm"       },
-    { TenCentimetres,      10.0,  "%10 cm"      },
-    { Metre,              100.0,  "%1 m"        },
+    { HundredMicrometres,   0.01, "00 micros" },
+    { Millimetre,           0.1,  " mm"       },
+    { Centimetre,           1.0,  " cm"       },
+    { TenCentimetres,      10.0,  "0 cm"      },
+    { Metre,              100.0,  " m"        },
 });
 // clang-format on
 
 const UnitRow* RowOf(RulerUnitType unit)
 {
-    const auto* row = std::ranges::find(kUnitRows, unit, &UnitRow::fUnit);
-    return row != kUnitRows.end() ? row : nullptr;
+    const auto row = std::ranges::find(kUnitRows, unit, &UnitRow::fUnit);
+    return row != kUnitRows.end() ? &*row : nullptr;
 }
 
 }  // namespace
@@ -59,7 +59,7 @@ std::int16_t CalculateMajorScaleTicks(double d, std::int16_t n, RulerUnitType* u
 {
     *unit = None;
     *count = 0;
-    const auto* row =
+    const auto row =
         std::ranges::find_if(kScaleRows, [d](const ScaleRow& r) { return d >= r.fThreshold_cm; });
     if (row == kScaleRows.end())
         return 0;
@@ -83,9 +83,7 @@ std::int16_t CalculateMinorScaleTicks(std::int16_t division)
 QString RulerLabel(RulerUnitType unit, std::int16_t count)
 {
     const UnitRow* row = RowOf(unit);
-    if (!row)
-        return {};
-    return QString::fromLatin1(row->fLabel).replace(QLatin1String("%1"), QString::number(count));
+    return row ? QString::number(count) + QLatin1String(row->fBehindCount) : QString();
 }
 
 double RulerSpan(double d, std::int16_t n, RulerUnitType unit, std::int16_t count)

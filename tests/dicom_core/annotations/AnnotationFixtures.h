@@ -1,0 +1,106 @@
+// What the tests of this folder share: the application object that fonts need, a paper whose y runs
+// upward, and sequences of made files.
+#pragma once
+#include "dicom_core/annotations/ImageAnnotation.h"
+#include "dicom_core/tree/TreeFixtures.h"
+
+#include "qpix/CImporterFactory.h"
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <gtest/gtest.h>
+
+// Made by the first test that paints, so that listing the tests needs no platform plug-in.
+class PaintingTest : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        static int sCount = 1;
+        static char sName[] = "annotations";
+        static char* sArguments[] = {sName, nullptr};
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        static const QGuiApplication sApplication(sCount, sArguments);
+        CImporterPlusFactory::InitFactory();
+    }
+};
+
+// Gray paper of a cell's size; `scale` is that of the screen, (left, top) the cell's first pixel.
+class Paper {
+public:
+    Paper(int width, int height, double scale = 1, int left = 0, int top = 0)
+        : fImage(static_cast<int>(width * scale), static_cast<int>(height * scale),
+                 QImage::Format_RGB32),
+          fScale(scale)
+    {
+        fImage.fill(0xFF808080);
+        fPainter.emplace(&fImage);
+        fPainter->scale(scale, -scale);
+        fPainter->translate(-left, top);
+    }
+    [[nodiscard]] QPainter& Painter() { return *fPainter; }
+    // The smallest rectangle, in logical pixels with y downward, around all pixels that `wanted`
+    // answers true for. Empty if there are none.
+    template <typename Wanted>
+    [[nodiscard]] QRectF BoundsOf(Wanted wanted) const
+    {
+        QRect found;
+        for (int y = 0; y < fImage.height(); ++y)
+            for (int x = 0; x < fImage.width(); ++x)
+                if (wanted(fImage.pixel(x, y)))
+                    found |= QRect(x, y, 1, 1);
+        return {found.x() / fScale, found.y() / fScale, found.width() / fScale,
+                found.height() / fScale};
+    }
+    [[nodiscard]] QRectF Painted() const
+    {
+        return BoundsOf([](QRgb pixel) { return pixel != 0xFF808080; });
+    }
+    // What a part of the paper shows, y downward.
+    [[nodiscard]] bool IsBlank(const QRect& part) const
+    {
+        const QRect scaled(static_cast<int>(part.x() * fScale), static_cast<int>(part.y() * fScale),
+                           static_cast<int>(part.width() * fScale),
+                           static_cast<int>(part.height() * fScale));
+        const QImage copy = fImage.copy(scaled);
+        for (int y = 0; y < copy.height(); ++y)
+            for (int x = 0; x < copy.width(); ++x)
+                if (copy.pixel(x, y) != 0xFF808080)
+                    return false;
+        return true;
+    }
+    [[nodiscard]] const QImage& Image() const { return fImage; }
+
+private:
+    QImage fImage;
+    std::optional<QPainter> fPainter;
+    double fScale;
+};
+
+// The yellow of the texts, not their shadow; half-covered pixels count from half on.
+[[nodiscard]] inline bool IsInk(QRgb pixel) { return qRed(pixel) > 0xB0 && qBlue(pixel) < 0x60; }
+
+struct AnnotatedSequence {
+    explicit AnnotatedSequence(const FileWords& words) { Add(words); }
+    void Add(const FileWords& words)
+    {
+        files.push_back(
+            AddedFile(&sequence, WriteImage(folder, "f" + std::to_string(files.size()), words)));
+        sequence.fModalityStr.Assign(words.modality);
+    }
+    [[nodiscard]] zel_TransformRec& Look(int frame = 1)
+    {
+        return sequence.GetImageFrameInfo(frame)->fTransform;
+    }
+    [[nodiscard]] AnnotatedFrame Frame(int frame, const Rect& cell = {0, 0, 400, 400})
+    {
+        sequence.SetCurrentFrameIndex(frame);
+        dk_ImageFrameInfo* info = sequence.GetImageFrameInfo(frame);
+        return {cell, sequence, *info, sequence.GetFrameParser(frame),
+                info->fImageFile->GetCharacterEncoding()};
+    }
+
+    TempFolder folder;
+    dk_Sequence sequence;
+    std::vector<dk_ImageFile*> files;
+};
