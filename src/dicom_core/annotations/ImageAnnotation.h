@@ -9,6 +9,7 @@
 #include <QString>
 
 class QPainter;
+class dk_DicomCharacterEncoding;
 
 // The frame that is being drawn; all borrowed. It is the sequence's current frame meanwhile.
 struct AnnotatedFrame {
