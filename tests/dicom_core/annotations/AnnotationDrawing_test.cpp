@@ -144,7 +144,7 @@ TEST_F(AnnotationDrawing, flags_choose_between_text_and_ruler)
     Add(&manager, TextPosition::TopLeft, kID);
     manager.AddAnnotation(std::make_unique<OrientationAnnotation>());
     manager.AddRuler(std::make_unique<RulerAnnotation>());
-    const QRect corner(0, 0, 60, 30), top(190, 0, 20, 25), bar(150, 360, 95, 30);
+    const QRect corner(0, 0, 60, 30), top(190, 0, 20, 25), bar(150, 370, 40, 12);
     const QRect left(0, 190, 20, 30);
     const auto inkOf = [&](bool text, bool ruler) {
         manager.SetShowsDemographics(text);
@@ -209,6 +209,7 @@ TEST_F(AnnotationDrawing, a_cell_may_lie_anywhere)
     Paper paper(300, 240, 1, 70, 90);
     QPainter& painter = paper.Painter();
     const QTransform before = painter.transform();
+    there.save("/tmp/h1/x.png");
     manager.Draw(Cell(300, 240, 70, 90), 1, painter);
     EXPECT_EQ(painter.transform(), before);
     EXPECT_EQ(paper.Image(), there);
@@ -273,6 +274,7 @@ TEST_F(AnnotationDrawing, view_states_are_filled_from_the_list)
     EXPECT_EQ(manager->GetNthAdorner(manager->CountAdorners() - 1)->fHorzMargin, 8);
     EXPECT_EQ(manager->GetNthAdorner(-1), nullptr);
     const QImage all = Drawn(manager, made, 600, 500);
+    all.save("/tmp/h1/y.png");
     EXPECT_GT(InkIn(all, {0, 0, 100, 30}), 0);
     made.sequence.GetViewState()->SetShowsDemographics(false);
     EXPECT_EQ(Ink(Drawn(manager, made, 600, 500)), 0);

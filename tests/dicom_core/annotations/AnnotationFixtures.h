@@ -56,19 +56,6 @@ public:
     {
         return BoundsOf([](QRgb pixel) { return pixel != 0xFF808080; });
     }
-    // What a part of the paper shows, y downward.
-    [[nodiscard]] bool IsBlank(const QRect& part) const
-    {
-        const QRect scaled(static_cast<int>(part.x() * fScale), static_cast<int>(part.y() * fScale),
-                           static_cast<int>(part.width() * fScale),
-                           static_cast<int>(part.height() * fScale));
-        const QImage copy = fImage.copy(scaled);
-        for (int y = 0; y < copy.height(); ++y)
-            for (int x = 0; x < copy.width(); ++x)
-                if (copy.pixel(x, y) != 0xFF808080)
-                    return false;
-        return true;
-    }
     [[nodiscard]] const QImage& Image() const { return fImage; }
 
 private:
@@ -77,8 +64,8 @@ private:
     double fScale;
 };
 
-// The yellow of the texts, not their shadow; half-covered pixels count from half on.
-[[nodiscard]] inline bool IsInk(QRgb pixel) { return qRed(pixel) > 0xB0 && qBlue(pixel) < 0x60; }
+// The yellow of the texts, however little a pixel has of it; not their shadow.
+[[nodiscard]] inline bool IsInk(QRgb pixel) { return qRed(pixel) > qBlue(pixel) + 0x20; }
 
 struct AnnotatedSequence {
     explicit AnnotatedSequence(const FileWords& words) { Add(words); }
