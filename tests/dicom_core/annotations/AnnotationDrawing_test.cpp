@@ -67,7 +67,7 @@ TEST_F(AnnotationDrawing, a_line_lies_where_it_was_measured)
         ShapeDrawStringWithFontX(text, paper.Painter(), {40, -50}, GetAnnotationFontRef(), kYellow);
         const QRectF ink = paper.BoundsOf(IsInk);
         EXPECT_NEAR(ink.left(), 40 + bounds.x(), 1.2);
-        EXPECT_NEAR(ink.right(), 40 + bounds.right(), 1.2);
+        EXPECT_NEAR(ink.right(), 40 + bounds.right(), 2);  // measuring rounds outward
         EXPECT_NEAR(ink.bottom(), 50 - bounds.y(), 1.2);
         EXPECT_NEAR(ink.top(), 50 - (bounds.y() + bounds.height()), 1.2);
         const QRectF all = paper.Painted();
@@ -209,7 +209,6 @@ TEST_F(AnnotationDrawing, a_cell_may_lie_anywhere)
     Paper paper(300, 240, 1, 70, 90);
     QPainter& painter = paper.Painter();
     const QTransform before = painter.transform();
-    there.save("/tmp/h1/x.png");
     manager.Draw(Cell(300, 240, 70, 90), 1, painter);
     EXPECT_EQ(painter.transform(), before);
     EXPECT_EQ(paper.Image(), there);
@@ -274,7 +273,6 @@ TEST_F(AnnotationDrawing, view_states_are_filled_from_the_list)
     EXPECT_EQ(manager->GetNthAdorner(manager->CountAdorners() - 1)->fHorzMargin, 8);
     EXPECT_EQ(manager->GetNthAdorner(-1), nullptr);
     const QImage all = Drawn(manager, made, 600, 500);
-    all.save("/tmp/h1/y.png");
     EXPECT_GT(InkIn(all, {0, 0, 100, 30}), 0);
     made.sequence.GetViewState()->SetShowsDemographics(false);
     EXPECT_EQ(Ink(Drawn(manager, made, 600, 500)), 0);
