@@ -1,13 +1,18 @@
 // What the header says, cached. A number that can't be read stays unknown: a later call tries
 // again.
 #include "dicom_core/tree/dk_ImageFile.h"
+#include "dicom_core/values/FrameGroups.h"
 #include "dicom_core/values/ParserOverlays.h"
 #include "dicom_core/values/ParserSpatial.h"
 #include "dicom_core/values/ParserText.h"
 #include "dicom_core/values/ParserValues.h"
 #include "dicom_core/values/TrimText.h"
 
+#include <algorithm>
+
 namespace {
+
+constexpr std::int32_t kUsualAspect = 1000;  // the smaller factor of pixels not wider than high
 
 // Does the record tell what the header holds, so that the file needn't be opened? One that came
 // from a directory only tells what the directory holds.
@@ -118,10 +123,12 @@ void dk_ImageFile::GetAspectRatio(std::int32_t* vertical, std::int32_t* horizont
         fAspectV = fAspectH = 1;
         const zelParserVisit visit(fSource->IsDICOM() ? fSource : nullptr);
         std::int32_t v = 0, h = 0;
-        if (visit.Parser() && !Qvx2_ParserGetPixelAspectRatioFactors(visit.Parser(), &v, &h) &&
-            v > 0 && h > 0) {
-            fAspectV = v;
-            fAspectH = h;
+        const zelFrameGroups groups(visit.Parser());
+        if (visit.Parser() && !Qvx2_ParserGetPixelAspectRatioFactors(groups, 1, &v, &h) && v > 0 &&
+            h > 0) {
+            // Of a ratio below 1 the factors have the larger one first: pixels wider than high.
+            fAspectV = std::min(v, h) < kUsualAspect ? std::min(v, h) : v;
+            fAspectH = std::min(v, h) < kUsualAspect ? std::max(v, h) : h;
         }
     }
     *vertical = fAspectV;

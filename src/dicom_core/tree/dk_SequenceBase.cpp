@@ -2,6 +2,7 @@
 
 #include "dicom_core/tree/dk_ImageFile.h"
 #include "dicom_core/tree/dk_Patient.h"
+#include "dicom_core/values/FrameGroups.h"
 #include "dicom_core/values/ParserSpatial.h"
 #include "dicom_core/values/ParserTiming.h"
 
@@ -242,7 +243,7 @@ bool dk_SequenceBase::HasBuiltInScaleInfo()
             if (!file->GetSource() || !file->GetSource()->IsDICOM())
                 break;
             const zelParserVisit visit(file->GetSource());
-            if (visit.Parser() && Parser_FileHasScaleInfo(visit.Parser()))
+            if (visit.Parser() && Parser_FileHasScaleInfo(zelFrameGroups(visit.Parser()), 1))
                 fHasScaleInfo = 1;
         }
     }
@@ -254,14 +255,27 @@ bool dk_SequenceBase::HasPixelSizeData()
     return HasBuiltInScaleInfo() || GetViewState()->fManualPixelScale != 0;
 }
 
+// Frames are shown with square pixels where the file tells their shape: one axis has more pixels
+// then than are stored, and they are smaller.
 void dk_SequenceBase::GetPixelDimensions(float* first, float* second)
 {
     *first = *second = GetViewState()->fManualPixelScale;
     for (dk_ImageFile* file = FirstFile(*this); file && *first == 0; file = NextFile(file)) {
         const zelParserVisit visit(file->GetSource());
-        if (!visit.Parser() || !Parser_FileHasScaleInfo(visit.Parser()))
+        if (!visit.Parser())
             continue;
-        static_cast<void>(Parser_GetPixelDimensions(visit.Parser(), first, second));
+        const zelFrameGroups groups(visit.Parser());
+        zelPlane plane;
+        // Its code is that of the orientation, which plays no part.
+        static_cast<void>(Parser_GetPositionOrientationSpacingAndSize(groups, 1, 0, 0, &plane));
+        if (!(plane.fRowSpacing > 0) || !(plane.fColumnSpacing > 0))
+            continue;
+        std::int32_t vertical = 0, horizontal = 0;
+        file->GetAspectRatio(&vertical, &horizontal);
+        const bool known = vertical > 0 && horizontal > 0;
+        const double ratio = known ? static_cast<double>(vertical) / horizontal : 1;
+        *first = static_cast<float>(plane.fColumnSpacing * std::min(ratio, 1.0));
+        *second = static_cast<float>(plane.fRowSpacing / std::max(ratio, 1.0));
         return;
     }
 }

@@ -76,6 +76,8 @@ public:
     // Facts.
     [[nodiscard]] bool HasPixelSizeData();
     [[nodiscard]] bool HasBuiltInScaleInfo();
+    // Millimetres that a pixel of frame coordinates (aspect-corrected) takes along a row, and down
+    // a column; the user's calibration comes first. 0 unknown.
     void GetPixelDimensions(float* first, float* second);
     [[nodiscard]] bool HasDICOMOverlays();
     [[nodiscard]] bool HasColorize();

@@ -1,28 +1,17 @@
-// What the tests of this folder share: the application object that fonts need, a paper whose y runs
+// What the tests of this folder share: a paper whose y runs
 // upward, and sequences of made files.
 #pragma once
 #include "dicom_core/annotations/ImageAnnotation.h"
 #include "dicom_core/tree/TreeFixtures.h"
 
 #include "qpix/CImporterFactory.h"
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <gtest/gtest.h>
 
-// Made by the first test that paints, so that listing the tests needs no platform plug-in.
 class PaintingTest : public testing::Test {
 protected:
-    static void SetUpTestSuite()
-    {
-        static int sCount = 1;
-        static char sName[] = "annotations";
-        static char* sArguments[] = {sName, nullptr};
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        static const QGuiApplication sApplication(sCount, sArguments);
-        CImporterPlusFactory::InitFactory();
-    }
+    static void SetUpTestSuite() { CImporterPlusFactory::InitFactory(); }
 };
 
 // Gray paper of a cell's size; `scale` is that of the screen, (left, top) the cell's first pixel.

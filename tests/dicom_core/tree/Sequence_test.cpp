@@ -1,6 +1,8 @@
 // What a sequence counts, is called and knows of its files; sequences appended and cloned.
 #include "dicom_core/tree/TreeFixtures.h"
 
+#include <cstdlib>
+#include <cstring>
 #include <gtest/gtest.h>
 
 namespace {
@@ -148,6 +150,40 @@ TEST(SequenceFacts, come_from_the_first_file_that_knows_and_the_user_before_it)
     sequence.GetViewState()->fManualPixelScale = 2;
     sequence.GetPixelDimensions(&first, &second);
     EXPECT_TRUE(first == 2 && second == 2);
+}
+
+TEST(SequenceFacts, give_the_size_of_pixels_as_they_are_shown)
+{
+    struct Row {
+        const char* spacing;  // between rows, between columns
+        const char* aspect;
+        float across, down;
+    };
+    const Row rows[] = {
+        {"0.5\\0.5", nullptr, 0.5F, 0.5F}, {"1\\0.5", nullptr, 0.5F, 0.5F},
+        {"0.5\\1", nullptr, 0.5F, 0.5F},   {"0.5\\1", "1\\1", 1, 0.5F},
+        {"1\\1", "2\\1", 1, 0.5F},         {"1\\1", "1\\2", 0.5F, 1},
+    };
+    for (const Row& row : rows) {
+        TempFolder folder;
+        dk_Sequence sequence;
+        FileWords words{
+            .elements = {{0x0028, 0x0030, "DS", row.spacing}, {0x0028, 0x0034, "IS", row.aspect}},
+            .rows = 4,
+            .columns = 4};
+        AddedFile(&sequence, WriteImage(folder, "a", words));
+        float across = 0, down = 0;
+        sequence.GetPixelDimensions(&across, &down);
+        EXPECT_FLOAT_EQ(across, row.across) << row.spacing;
+        EXPECT_FLOAT_EQ(down, row.down) << row.spacing;
+        // The frame is as wide and as high in millimetres as it was.
+        Point size;
+        CImporterPlusFactory::InitFactory();
+        ASSERT_EQ(sequence.GetImageFrameInfo(1)->GetFrameSizeWithAspectRatio(&size), kQvxOK);
+        if (!row.aspect)
+            EXPECT_FLOAT_EQ(size.h * across,
+                            4 * std::strtof(std::strchr(row.spacing, '\\') + 1, nullptr));
+    }
 }
 
 // ---- appended and cloned ------------------------------------------------------------------------
