@@ -30,6 +30,7 @@ public:
     void SetFontSize(float size);
     void SetForeColor(const ZELRGBColor& color);
     void SetForPrinting(bool printing, std::int16_t printSize);
+    [[nodiscard]] bool IsForPrinting() const { return fPrinting; }
 
     void SetShowsDemographics(bool shows) override { fShowText = shows; }
     void SetShowsScale(bool shows) override { fShowRuler = shows; }

@@ -31,19 +31,18 @@ inline constexpr std::uint32_t kShapeOrientation = FourCC("orie");
 // who asks.
 class BaseAnnotation {
 public:
-    BaseAnnotation();
+    BaseAnnotation() = default;
     virtual ~BaseAnnotation() = default;
     BaseAnnotation(const BaseAnnotation&) = delete;
     BaseAnnotation& operator=(const BaseAnnotation&) = delete;
 
     // 'anot'; 'orie' for what takes the whole cell.
     [[nodiscard]] virtual std::uint32_t ShapeType() const { return kShapeAnnotation; }
-    void SetDrawColor(QPainter& painter) const;  // as pen
 
     bool fVisible = true;
     bool fPrinting = false;
     bool fSmall = false;  // the cell is
-    ZELRGBColor fColor;   // the preference's when made
+    ZELRGBColor fColor = prefs_Get_AnnotationsDefaultColor();
     QString fFontName;
     float fFontSize = 10.0F;
     std::int16_t fVertMargin = 2, fHorzMargin = 2;

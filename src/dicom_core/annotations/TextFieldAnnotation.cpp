@@ -1,10 +1,8 @@
 #include "dicom_core/annotations/TextFieldAnnotation.h"
 
 #include "dicom_core/annotations/AnnotationText.h"
-#include "dicom_core/annotations/PainterScope.h"
 #include "dicom_core/values/ElementText.h"
 #include "dicom_core/values/TextFormats.h"
-#include "prefs/Prefs.h"
 
 namespace {
 
@@ -23,13 +21,6 @@ QString Angle(const QString& text)
 }
 
 }  // namespace
-
-BaseAnnotation::BaseAnnotation() : fColor(prefs_Get_AnnotationsDefaultColor()) {}
-
-void BaseAnnotation::SetDrawColor(QPainter& painter) const
-{
-    painter.setPen(ColorOfHighBytes(fColor));
-}
 
 QString WithPrefix(const QString& prefix, const QString& text)
 {
