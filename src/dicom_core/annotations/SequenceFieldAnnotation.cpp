@@ -1,6 +1,7 @@
 #include "dicom_core/annotations/SequenceFieldAnnotation.h"
 
-#include <algorithm>
+#include "dicom_core/look/WindowText.h"
+
 #include <cmath>
 
 namespace {
@@ -23,27 +24,13 @@ QString Scale(dk_SequenceBase& sequence, const zel_TransformRec& record)
     return QStringLiteral("Scale: %1%").arg(percent, 0, 'f', whole ? 0 : 2);
 }
 
-// Decimals that tell one step of the scale from the next.
-int DecimalsOf(const zelVOIBlitterInfo& info)
-{
-    if (info.IsPlain() || !(info.pixelFactor > 0))
-        return 0;
-    return static_cast<int>(std::clamp(std::ceil(-std::log10(info.pixelFactor)), 1.0, 6.0));
-}
-
-// Half away from zero, which printing alone isn't; and never "-0".
-QString Rounded(double value, int decimals)
-{
-    const double unit = std::pow(10.0, decimals);
-    return QString::number(std::round(value * unit) / unit + 0.0, 'f', decimals);
-}
-
 QString Window(dk_SequenceBase& sequence, const zel_TransformRec& record)
 {
     if (sequence.IsDICOMGray()) {
-        const int decimals = DecimalsOf(record.voiInfo);
-        return QStringLiteral("WL: %1, WW: %2")
-            .arg(Rounded(record.voiLevel, decimals), Rounded(record.voiWidth, decimals));
+        const auto text = [&record](float value) {
+            return QString::fromStdString(WindowValueText(record.voiInfo, value));
+        };
+        return QStringLiteral("WL: %1, WW: %2").arg(text(record.voiLevel), text(record.voiWidth));
     }
     if (record.brightness == 0 && record.contrast == 0)
         return {};

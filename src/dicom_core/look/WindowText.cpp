@@ -9,7 +9,9 @@ std::string WindowValueText(const zelVOIBlitterInfo& scale, double value)
 {
     constexpr double kMost = 6;
     int decimals = 0;
-    if (const double step = scale.pixelFactor; step > 0 && step != std::trunc(step))
+    const double step = scale.pixelFactor;
+    if (step > 0 &&
+        (step != std::trunc(step) || scale.pixelOffset != std::trunc(scale.pixelOffset)))
         decimals = static_cast<int>(std::clamp(std::ceil(-std::log10(step)), 1.0, kMost));
     const double unit = std::pow(10, decimals);
     const double rounded = std::round(value * unit) / unit;

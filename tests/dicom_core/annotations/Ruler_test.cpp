@@ -158,12 +158,12 @@ TEST_F(RulerPainting, follows_zoom_turn_and_size)
     // At twice the size the same span is 4 cm and shows 2 of them.
     Paint(400, 400, "0.5\\0.5", 0, 2 * kZoomOne);
     EXPECT_NEAR(bottom.width(), 81, 1);
-    // Pixels of 0.7 mm in one direction: 160 pixels are 11.2 cm there and show 10.
-    Paint(400, 400, "0.5\\0.7");
+    // Rows 0.7 mm apart: 160 pixels are 11.2 cm there and show 10.
+    Paint(400, 400, "0.7\\0.5");
     EXPECT_NEAR(bottom.width(), 101, 1);
-    Paint(400, 400, "0.5\\0.7", 90);
+    Paint(400, 400, "0.7\\0.5", 90);
     EXPECT_NEAR(bottom.width(), 144, 1);
-    Paint(400, 400, "0.7\\0.5", 270);
+    Paint(400, 400, "0.5\\0.7", 270);
     EXPECT_NEAR(bottom.width(), 101, 1);
     Paint(128, 129, "0.5\\0.5");
     EXPECT_EQ(taken.bottom, 0);
