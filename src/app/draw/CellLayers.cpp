@@ -186,11 +186,11 @@ void U_DrawLocalizersForFrame(const CellLayer& layer)
     if (lines.empty())
         return;
     const OnFrame onFrame(layer);
-    QPen pen = Hairline(ColorOf(prefs_Get_LocalizerLinesCGColorRef()));
-    pen.setCapStyle(Qt::SquareCap);  // lines without length show too
-    layer.painter->setPen(pen);
-    for (const QLineF& line : lines)
-        layer.painter->drawLine(line);
+    layer.painter->setPen(Hairline(ColorOf(prefs_Get_LocalizerLinesCGColorRef())));
+    for (const QLineF& line : lines) {
+        if (!line.isNull())  // a side of an outline that has become a line
+            layer.painter->drawLine(line);
+    }
 }
 
 // ---- crop ----
