@@ -1,6 +1,8 @@
 #include "app/grid/RenderFrame.h"
 
+#include "app/grid/ZELSequenceProxy.h"
 #include "dicom_core/imaging/DicomOverlays.h"
+#include "dicom_core/imaging/LoadFrame.h"
 #include "dicom_core/imaging/zel_QTViewerDoc.h"
 #include "dicom_core/look/GridFrameTransDoc.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
@@ -105,4 +107,46 @@ QImage RenderFrame(const zel_QTViewerDoc& document, dk_SequenceBase* sequence, s
     LogLine("frame " + std::to_string(frame) +
             " can't be rendered: " + std::string(StatusText(status)));
     return {};
+}
+
+QvxStatus U_DrawGWorldBitmapForFrame(const ZELSequenceProxy& proxy, std::int32_t frame,
+                                     Port* target, const Rect& place)
+{
+    constexpr int kBestQuality = 1024;
+    zel_QTViewerDoc document;
+    if (const QvxStatus status =
+            U_LoadFrameContentToViewerDoc(proxy.theSequence(), frame, &document))
+        return status;
+    return U_DrawFrameContentFromDoc(proxy, frame, target, place, &document, kBestQuality);
+}
+
+QvxStatus U_DrawFrameContentFromDoc(const ZELSequenceProxy& proxy, std::int32_t frame, Port* target,
+                                    const Rect& place, zel_QTViewerDoc* document, int quality)
+{
+    constexpr int kFastest = 16;
+    dk_ImageFrameInfo* info =
+        proxy.theSequence() ? proxy.theSequence()->GetImageFrameInfo(frame) : nullptr;
+    LongRect visible;
+    if (!info || !target || !document)
+        return kQvxBadArgument;
+    if (const QvxStatus status = info->GetImageVisibleRect(&visible))
+        return status;
+    const QvxStatus status =
+        quality == kFastest
+            ? document->CopyPixelsToGWorldL(target, &visible, &place, CopyMode::Dither, nullptr)
+            : document->DecompressToGWorldL(target, &visible, &place, quality, CopyMode::Dither,
+                                            nullptr);
+    if (status)
+        return status;
+    return U_DrawCellOverlays(proxy.theSequence(), frame, target,
+                              QRect(QPoint(place.left, place.top),
+                                    QSize(place.right - place.left, place.bottom - place.top)));
+}
+
+QImage U_NSCreateImageFromGWorld(const Port& port)
+{
+    QImage image(WidthOf(port.bounds), HeightOf(port.bounds), QImage::Format_RGB32);
+    if (image.isNull() || CopyToScreen(port, nullptr, image.bits(), image.bytesPerLine()))
+        return {};
+    return image;
 }

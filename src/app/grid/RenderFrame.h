@@ -6,9 +6,11 @@
 #include <QRect>
 #include <cstdint>
 
+class ZELSequenceProxy;
 class dk_SequenceBase;
 class zel_QTViewerDoc;
 struct Port;
+struct Rect;
 
 inline constexpr int kLongestPictureSide = 32767;  // device pixels: what a port's bounds can say
 
@@ -23,3 +25,16 @@ inline constexpr int kLongestPictureSide = 32767;  // device pixels: what a port
 // opaque image of the size of `shown`; null, with a line in the log, when it can't be made.
 [[nodiscard]] QImage RenderFrame(const zel_QTViewerDoc& document, dk_SequenceBase* sequence,
                                  std::int32_t frame, const QRect& whole, const QRect& shown);
+
+// The frame (from 1) scaled into `place` of a port of any format, its overlays in it: for
+// exporters, which draw into ports of their own. The first loads it; the second takes a document
+// that has it loaded, and a codec's quality, of which 16 is the fastest. The codes of loading and
+// drawing.
+[[nodiscard]] QvxStatus U_DrawGWorldBitmapForFrame(const ZELSequenceProxy& proxy,
+                                                   std::int32_t frame, Port* target,
+                                                   const Rect& place);
+[[nodiscard]] QvxStatus U_DrawFrameContentFromDoc(const ZELSequenceProxy& proxy, std::int32_t frame,
+                                                  Port* target, const Rect& place,
+                                                  zel_QTViewerDoc* document, int quality);
+// A copy of a port's pixels; null for a port without pixels.
+[[nodiscard]] QImage U_NSCreateImageFromGWorld(const Port& port);

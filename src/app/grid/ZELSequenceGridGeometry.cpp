@@ -3,6 +3,7 @@
 #include "app/grid/ZELSequenceGridViewModelController.h"
 #include "dicom_core/imaging/LoadFrame.h"
 #include "dicom_core/imaging/zel_QTViewerDoc.h"
+#include "dicom_core/look/LocationMaths.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
 #include "util/Log.h"
 
@@ -161,6 +162,29 @@ QRectF ZELSequenceGridViewModelController::viewRectToFrameRect(const QRectF& rec
                                                                std::int32_t frame) const
 {
     return geometryForFrame(frame).viewRectToFrameRect(rect);
+}
+
+// The flips act on the turned frame, so they are taken back first.
+QPointF ZELSequenceGridViewModelController::reverseLocation(const QPointF& location,
+                                                            const zel_TransformRec& record,
+                                                            const QSizeF& size)
+{
+    const XRect rect{0, 0, size.height(), size.width()};
+    const CGPoint flipped =
+        U_FlipLocation(record.horzFlip, record.vertFlip, rect,
+                       {static_cast<float>(location.x()), static_cast<float>(location.y())});
+    const CGPoint turned = U_RotateLocation(record.rotation, rect, flipped);
+    return {turned.x, turned.y};
+}
+
+QRectF ZELSequenceGridViewModelController::imageRectForFrameInCell(std::int32_t frame,
+                                                                   const QSizeF& cell) const
+{
+    if (!_currZELSequence)
+        return {};
+    return CellGeometryOf(*_currZELSequence, resolved(frame), {QPointF(), cell},
+                          _viewport.pixelRatio())
+        .shownRect();
 }
 
 QPointF ZELSequenceGridViewModelController::viewPsaxnoLocToImageLoc(const QPointF& location,

@@ -111,10 +111,16 @@ public:
     [[nodiscard]] QPointF U_GetViewScrollLimitsForViewFrame(std::int32_t frame) const;
     [[nodiscard]] QPointF U_GetCurrViewScrollForFrame(std::int32_t frame) const;
     [[nodiscard]] QRectF U_PsaxnoRectForFrame(std::int32_t frame) const;  // what shows of it
+    // Where the image would lie in another cell, at the origin, of that size.
+    [[nodiscard]] QRectF imageRectForFrameInCell(std::int32_t frame, const QSizeF& cell) const;
     [[nodiscard]] QPointF viewPointToFramePoint(const QPointF& point, std::int32_t frame) const;
     [[nodiscard]] QPointF framePointToViewPoint(const QPointF& point, std::int32_t frame) const;
     [[nodiscard]] QRectF viewRectToFrameRect(const QRectF& rect, std::int32_t frame) const;
     // The same for locations in the rectangle of the image, unscrolled: its top left corner is 0.
+    // A location in a rectangle of that size, as it lies before the record's flips and turn.
+    [[nodiscard]] static QPointF reverseLocation(const QPointF& location,
+                                                 const zel_TransformRec& record,
+                                                 const QSizeF& size);
     [[nodiscard]] QPointF viewPsaxnoLocToImageLoc(const QPointF& location,
                                                   std::int32_t frame) const;
     [[nodiscard]] QPointF U_RotateFlipScaleImagePoint(const QPointF& point,

@@ -112,6 +112,24 @@ CGPoint U_FlipLocation(bool horizontally, bool vertically, const XRect& rect, CG
     return point;
 }
 
+CGPoint U_RotateLocation(int rotation, const XRect& rect, CGPoint point)
+{
+    const auto width = static_cast<float>(rect.right - rect.left);
+    const auto height = static_cast<float>(rect.bottom - rect.top);
+    switch (rotation) {
+        case 0:
+            return point;
+        case 90:
+            return {point.y, width - point.x};
+        case 180:
+            return {width - point.x, height - point.y};
+        case 270:
+            return {height - point.y, point.x};
+        default:
+            return {};
+    }
+}
+
 Rect FitRectScaledProp(const Rect& size, const Rect& into, bool centered)
 {
     if (EmptyRect(size) || EmptyRect(into))

@@ -31,6 +31,9 @@ void FitRectIntoRect(const LongRect& size, const LongRect& into, LongRect* resul
 // first flag, top to bottom with the second.
 [[nodiscard]] CGPoint U_FlipLocation(bool horizontally, bool vertically, const XRect& rect,
                                      CGPoint point);
+// A point of the displayed rectangle, measured likewise, as it lies before a turn by `rotation`
+// degrees clockwise; 0 and 0 for a rotation that is none of 0, 90, 180 and 270.
+[[nodiscard]] CGPoint U_RotateLocation(int rotation, const XRect& rect, CGPoint point);
 // `size` scaled in its proportions until it just fits into the other, centred or at its top left
 // corner; empty when either is.
 [[nodiscard]] Rect FitRectScaledProp(const Rect& size, const Rect& into, bool centered);
