@@ -131,8 +131,9 @@ TEST(SequenceProxyLook, setting_one_of_a_pair_keeps_the_other_and_other_frames)
         proxy.setCurrentWLContrast(70);
         EXPECT_EQ(isGray ? record.voiWidth : record.brightness, 60);
         EXPECT_EQ(isGray ? record.voiLevel : record.contrast, 70);
-        if (isGray)
+        if (isGray) {
             EXPECT_EQ(record.brightness, 11) << "of the other kind";
+        }
         EXPECT_EQ(sequence->GetImageFrameInfo(3)->fTransform, other);
     }
 }
