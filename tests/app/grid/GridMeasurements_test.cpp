@@ -239,7 +239,10 @@ TEST(GridMeasurements, are_stacked_anew_in_a_frame_that_is_not_shown)
     EXPECT_EQ(stacked.Order(), "abc") << "not those of the current frame";
     EXPECT_EQ(stacked.window.host.Take(), Words(4, "A frame 3"));
     ASSERT_EQ(told.notes.size(), 4u);
-    EXPECT_EQ(told.Number(kKeyTargetFrame, 3), 3);
+    for (std::size_t note = 0; note < told.notes.size(); ++note) {
+        EXPECT_EQ(told.Number(kKeyTargetFrame, note), 3);
+        EXPECT_EQ(told.Number(kKeyMeasurementAction, note), 5) << "a move to a position";
+    }
 }
 
 TEST(GridMeasurements, one_is_propagated_to_every_frame_that_lacks_it)
@@ -303,7 +306,7 @@ TEST(GridMeasurements, the_uppermost_under_a_point_unless_the_current_one_is_pre
         {"a handle", 'a', false, {10, 10}, "a", 1, 1},
         {"a handle under another one's contents", 'a', false, {30, 30}, "b", 2, 0},
         {"a handle of the preferred one", 'a', true, {30, 30}, "a", 1, 8},
-        {"contents of the preferred one", 'a', true, {27, 27}, "a", 1, 0},
+        {"contents of the preferred one", 'a', true, {24, 24}, "a", 1, 0},
         {"beside the preferred one", 'a', true, {40, 33}, "b", 2, 0},
         {"preferred without a current one", ' ', true, {28, 28}, "b", 2, 0},
     };
