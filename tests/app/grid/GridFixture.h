@@ -11,6 +11,7 @@
 #include "fixtures/TempFolder.h"
 #include "platform/PreferenceStore.h"
 #include "prefs/Prefs.h"
+#include "util/Log.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -18,6 +19,16 @@
 
 using Words = std::vector<std::string>;
 using Grid = ZELSequenceGridViewModelController;
+
+// No lines in the log, where a test provokes them.
+class Quiet {
+public:
+    Quiet()
+    {
+        SetLogSink([](std::string_view) {});
+    }
+    ~Quiet() { SetLogSink(nullptr); }
+};
 
 // Each file is one frame of 64 by 48 pixels, 5 mm behind the one before; a gray one holds column
 // plus 100 times the row, times 2, less 1024 in its units.
@@ -74,12 +85,11 @@ struct MadeTree {
     {
         auto* sequence = Add<dk_Sequence>(series);
         for (int frame = 1; frame <= form.frames; ++frame) {
-            const std::string name =
-                std::to_string(sequences.size()) + "_" + std::to_string(frame);
-            EXPECT_EQ(Add<dk_ImageFile>(sequence)->SetSourceFile(
-                          FileRef{folder.WriteFile(name, FrameFile(form, frame).Bytes())},
-                          kImportDicom),
-                      kQvxOK);
+            const std::string name = std::to_string(sequences.size()) + "_" + std::to_string(frame);
+            EXPECT_EQ(
+                Add<dk_ImageFile>(sequence)->SetSourceFile(
+                    FileRef{folder.WriteFile(name, FrameFile(form, frame).Bytes())}, kImportDicom),
+                kQvxOK);
         }
         zel_QTViewerDoc document;
         for (int frame = 1; frame <= form.frames; ++frame)

@@ -24,7 +24,10 @@ struct Stacked {
     {
         return !shape ? "" : shape == a ? "a" : shape == b ? "b" : shape == c ? "c" : "?";
     }
-    [[nodiscard]] CKShapePtr Named(char name) const { return name == 'a' ? a : name == 'b' ? b : c; }
+    [[nodiscard]] CKShapePtr Named(char name) const
+    {
+        return name == 'a' ? a : name == 'b' ? b : c;
+    }
     void AddTo(std::int32_t frame, const CKShapePtr& shape) const
     {
         proxy->viewStateForFrame(frame)->addMeasurement(shape);
@@ -38,7 +41,8 @@ struct Stacked {
     MadeTree made;
     Window window;
     ZELSequenceProxy* proxy;
-    CKShapePtr a = NewBox({10, 10, 20, 20}), b = NewBox({25, 25, 20, 15}), c = NewBox({2, 40, 4, 4});
+    CKShapePtr a = NewBox({10, 10, 20, 20}), b = NewBox({25, 25, 20, 15}),
+               c = NewBox({2, 40, 4, 4});
 };
 
 }  // namespace

@@ -95,9 +95,11 @@ TEST(SequenceProxyKeys, of_frames_and_zoom_only_where_the_current_frame_is_meant
         {"fit of the current", [](auto& p) { p.zoomAutofitForFrame(0); }, kFit},
         {"fit of all", [](auto& p) { p.zoomAutofitForFrame(-1); }, kFit},
         {"fit of another", [](auto& p) { p.zoomAutofitForFrame(3); }, {}},
-        {"pan", [](auto& p) { p.changeScrollPositionForAllFrames(false, {1, 2}); },
+        {"pan",
+         [](auto& p) { p.changeScrollPositionForAllFrames(false, {1, 2}); },
          {"currentScroll"}},
-        {"pan to the same place", [](auto& p) { p.changeScrollPositionForAllFrames(true, {}); },
+        {"pan to the same place",
+         [](auto& p) { p.changeScrollPositionForAllFrames(true, {}); },
          {}},
         {"turn", [](auto& p) { p.changeRotationForFrame(2, 90); }, {"currentRotation"}},
         {"turn of another", [](auto& p) { p.changeRotationForFrame(1, 90); }, {}},
@@ -107,6 +109,7 @@ TEST(SequenceProxyKeys, of_frames_and_zoom_only_where_the_current_frame_is_meant
 
 TEST(SequenceProxyKeys, of_looks_and_resets)
 {
+    const Quiet quiet;
     const Row rows[] = {
         {"width", [](auto& p) { p.setCurrentWWBrightness(300); }, {"currentWWBrightness"}},
         {"the same width", [](auto& p) { p.setCurrentWWBrightness(p.currentWWBrightness()); }, {}},
@@ -123,11 +126,13 @@ TEST(SequenceProxyKeys, of_looks_and_resets)
         {"tables reset", [](auto& p) { p.resetCLUTsForAllFrames(true); }, {"currentClutID"}},
         {"turns reset", [](auto& p) { p.resetOrientationForAllFrames(true); }, {"currentRotation"}},
         {"all reset", [](auto& p) { p.resetAllForAllFrames(false); }, kAll},
-        {"demographics, 2 hides", [](auto& p) { p.setViewShowsDemographics(2); },
+        {"demographics, 2 hides",
+         [](auto& p) { p.setViewShowsDemographics(2); },
          {"viewShowsDemographics"}},
         {"demographics as they are", [](auto& p) { p.setViewShowsDemographics(1); }, {}},
         {"scale", [](auto& p) { p.setViewShowsScale(false); }, {"viewShowsScale"}},
-        {"measurements hidden", [](auto& p) { p.setViewShowsMeasurements(false); },
+        {"measurements hidden",
+         [](auto& p) { p.setViewShowsMeasurements(false); },
          {"viewShowsMeasurements"}},
         {"grid", [](auto& p) { p.setViewGridSetupID(3); }, {"viewGridSetupID"}},
         {"a grid that there isn't", [](auto& p) { p.setViewGridSetupID(10); }, {"viewGridSetupID"}},
@@ -202,10 +207,8 @@ TEST(SequenceProxyKeys, derived_ones_follow_each_that_they_depend_on_once)
         for (const std::string_view from : row.dependOn) {
             const Words heard = HeardOf({from});
             for (const std::string_view key : row.derived) {
-                EXPECT_EQ(std::ranges::count(heard, Said('+', key)), 1)
-                    << key << " by " << from;
-                EXPECT_EQ(std::ranges::count(heard, Said('-', key)), 1)
-                    << key << " by " << from;
+                EXPECT_EQ(std::ranges::count(heard, Said('+', key)), 1) << key << " by " << from;
+                EXPECT_EQ(std::ranges::count(heard, Said('-', key)), 1) << key << " by " << from;
             }
         }
     }

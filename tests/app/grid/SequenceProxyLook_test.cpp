@@ -1,17 +1,7 @@
 // A proxy's windows, colours and turns, what resets leave, and a proxy of no sequence.
 #include "app/grid/GridFixture.h"
-#include "util/Log.h"
 
 namespace {
-
-class Quiet {
-public:
-    Quiet()
-    {
-        SetLogSink([](std::string_view) {});
-    }
-    ~Quiet() { SetLogSink(nullptr); }
-};
 
 // What was done to a frame, a letter each: window, brightness, negative, colours, turn, flip, pan,
 // zoom.

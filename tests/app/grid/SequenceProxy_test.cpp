@@ -189,7 +189,8 @@ TEST(SequenceProxy, one_measurement_at_most_is_current_and_selected)
     Shown shown;
     const CKShapePtr low = NewBox(), high = NewBox(), foreign = NewBox();
     shown.proxy.addNewMeasurement(low, true);
-    EXPECT_TRUE(shown.proxy.currentMeasurementIsTopmost() && shown.proxy.currentMeasurementIsLast());
+    EXPECT_TRUE(shown.proxy.currentMeasurementIsTopmost() &&
+                shown.proxy.currentMeasurementIsLast());
     shown.proxy.addNewMeasurement(high, false);
     EXPECT_EQ(shown.proxy.currentMeasurement(), low) << "not made current";
     EXPECT_TRUE(low->_selected && !high->_selected);
@@ -234,8 +235,8 @@ TEST(SequenceProxy, a_global_measurement_goes_from_every_frame)
         bool hasCurrent;
     };
     const Row rows[] = {
-        {"the current one", [](auto& p, auto&, auto&) { p.removeCurrentMeasurementAndDelete(true); },
-         "1100", false},
+        {"the current one",
+         [](auto& p, auto&, auto&) { p.removeCurrentMeasurementAndDelete(true); }, "1100", false},
         {"from a frame that isn't shown",
          [](auto& p, auto& g, auto&) { p.removeMeasurement(g, 4, true); }, "1100", false},
         {"a local one", [](auto& p, auto&, auto& l) { p.removeMeasurement(l, 2, true); }, "2111",

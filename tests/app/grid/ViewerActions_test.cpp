@@ -31,7 +31,8 @@ struct Acting {
         std::string changed;
         auto before = fBefore.begin();
         for (dk_Sequence* sequence : made.sequences) {
-            for (std::int32_t frame = 1; frame <= sequence->GetNumberOfFrames(); ++frame, ++before) {
+            for (std::int32_t frame = 1; frame <= sequence->GetNumberOfFrames();
+                 ++frame, ++before) {
                 const dk_ImageFrameInfo& info = *sequence->GetImageFrameInfo(frame);
                 if (!(info.fTransform == before->first) || info.fColorTable != before->second)
                     changed += std::to_string(frame);
@@ -110,9 +111,9 @@ TEST(ViewerActions, on_a_grid_reach_a_frame_or_its_sequence)
                     EXPECT_EQ(acting.Changed(), active ? changed + "|" : "|" + changed);
                     Words log;
                     if (scope != kUnknownScope)
-                        log.push_back((active ? "A " : "B ") +
-                                      (scope == 0 ? "frame " + std::to_string(frame)
-                                                  : std::string("all")));
+                        log.push_back(
+                            (active ? "A " : "B ") +
+                            (scope == 0 ? "frame " + std::to_string(frame) : std::string("all")));
                     if (active && scope != kUnknownScope)
                         log.push_back(row.refreshed);
                     EXPECT_EQ(acting.window.host.Take(), log);
@@ -180,8 +181,9 @@ TEST(ViewerActions, drop_pictures_that_would_show_the_old_look)
             const std::size_t one = acting.window.a.pictures().bytes();
             EXPECT_FALSE(acting.window.a.photoAtIndex(2).isNull());
             row.act(acting.actions, acting.window.a);
-            EXPECT_EQ(acting.window.a.pictures().bytes(),
-                      !row.drops ? 2 * one : scope == 0 ? one : 0);
+            EXPECT_EQ(acting.window.a.pictures().bytes(), !row.drops   ? 2 * one
+                                                          : scope == 0 ? one
+                                                                       : 0);
         }
     }
 }
@@ -211,9 +213,12 @@ TEST(ViewerActions, step_zoom_from_the_tool_bar)
         bool acts;
     };
     const Row rows[] = {
-        {"smaller", 100, 0, 75, true},         {"larger", 100, 2, 125, true},
-        {"actual size", 200, 1, 100, true},    {"is at actual size", 100, 1, 100, false},
-        {"held at the least", 75, 0, 100 * 32.0 / 48, true}, {"no such segment", 200, 3, 200, false},
+        {"smaller", 100, 0, 75, true},
+        {"larger", 100, 2, 125, true},
+        {"actual size", 200, 1, 100, true},
+        {"is at actual size", 100, 1, 100, false},
+        {"held at the least", 75, 0, 100 * 32.0 / 48, true},
+        {"no such segment", 200, 3, 200, false},
         {"no step above", 800, 2, 800, true},
     };
     for (const Row& row : rows) {
@@ -234,7 +239,7 @@ TEST(ViewerActions, on_the_active_grid_reach_its_current_frame_or_all)
     struct Row {
         const char* what;
         void (*act)(ViewerActions&);
-        bool isReset;      // which takes an unknown scope for the frame
+        bool isReset;           // which takes an unknown scope for the frame
         bool frameBar, allBar;  // the tool bar is refreshed
     };
     const Row rows[] = {
