@@ -171,6 +171,7 @@ TEST(ViewerActions, drop_pictures_that_would_show_the_old_look)
         {"turn", [](auto& v, Grid& g) { v.rotateView(g, 0, true); }, true},
         {"window", [](auto& v, Grid&) { v.U_ChangeBrightnessTo(300, 50); }, true},
         {"negative", [](auto& v, Grid& g) { v.invertColorsForView(g, 0); }, false},
+        {"fit of the active grid", [](auto& v, Grid& g) { v.autoFitView(g, 0); }, false},
     };
     for (const Row& row : rows) {
         for (const int scope : {0, 1}) {
