@@ -314,12 +314,26 @@ void ViewerActions::resetAllChanges()
     const bool beyondFrame = fHost->toolScope().toolScope() > 0;
     if (beyondFrame) {
         selectWholeImage();
-        sequence->ClearViewState();
+        clearViewState();
     }
     proxy->zoomAutofitForFrame(beyondFrame ? kAllFrames : ZELSequenceProxy::kCurrentFrame);
     resetMeasurements();
     redrawTarget();
     fHost->refreshToolbarItems();
+}
+
+// The view of the sequence as it was made: what is shown over frames, calibration, grid, speed.
+void ViewerActions::clearViewState()
+{
+    Grid& grid = *target();
+    ZELSequenceProxy& proxy = *grid.currZELSequence();
+    proxy.Announce({"viewShowsDemographics", "viewShowsScale", "viewShowsMeasurements",
+                    "viewShowsDicomOverlays", "viewGridSetupID"},
+                   [&] { proxy.theSequence()->ClearViewState(); });
+    const dk_SequenceViewState& state = *proxy.theSequence()->GetViewState();
+    grid.setGridRowsTo(state.fCurrRows, state.fCurrColumns, false);
+    if (proxy.cineRate() != 1)
+        proxy.setCineRate(1);
 }
 
 void ViewerActions::selectWholeImage()

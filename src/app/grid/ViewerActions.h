@@ -77,6 +77,7 @@ private:
     void dropPictures(Grid& grid, std::int32_t frame);
     void redraw(Grid& grid, std::int32_t frame);
     void redrawTarget();
+    void clearViewState();
     void zoomDidChange(Grid& grid, std::int32_t frame);
     void gotoSequence(Grid& grid, bool next);
     [[nodiscard]] std::shared_ptr<ZELSequenceProxy> walk(dk_SequenceBase* sequence, bool forCine,

@@ -136,6 +136,7 @@ void ZELSequenceProxy::removeMeasurement(const CKShapePtr& shape, std::int32_t f
             if (totalMeasurementsInFrame(each) > 0)
                 managerOf(each)->RemoveMeasurement(shape.get(), dispose);
         }
+        shape->_selected = shape->_fUseHandles = false;  // it may come back by an undo
         if (wasCurrent) {
             managerOf(currentFrame())->DeselectAll();
             managerOf(currentFrame())->SetCurrentMeasurement(nullptr);
