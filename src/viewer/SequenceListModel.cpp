@@ -118,6 +118,16 @@ const TreeRow& SequenceListModel::treeRow(int row) const
     return _rows[static_cast<std::size_t>(row)];
 }
 
+QModelIndex SequenceListModel::indexOf(const dk_SequenceBase* sequence) const
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        if (_rows[static_cast<std::size_t>(row)].IsSequence() &&
+            _rows[static_cast<std::size_t>(row)].Sequence() == sequence)
+            return index(row, 0);
+    }
+    return {};
+}
+
 QModelIndex SequenceListModel::firstSequence() const
 {
     const auto first = std::ranges::find_if(_rows, &TreeRow::IsSequence);

@@ -21,6 +21,7 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     [[nodiscard]] const TreeRow& treeRow(int row) const;
     [[nodiscard]] QModelIndex firstSequence() const;  // invalid if there is none
+    [[nodiscard]] QModelIndex indexOf(const dk_SequenceBase* sequence) const;  // the same
 
 private:
     std::vector<TreeRow> _rows;

@@ -1,5 +1,6 @@
 #include "viewer/ViewerApplication.h"
 
+#include "dicom_core/annotations/PrepareSequenceAnnotations.h"
 #include "dicom_core/opening/PathNames.h"
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "dicom_core/store/TempFolder.h"
@@ -57,6 +58,7 @@ ViewerApplication::~ViewerApplication()
 void ViewerApplication::start(std::vector<std::string> paths)
 {
     CImporterPlusFactory::InitFactory();
+    InstallSequenceAnnotations();
     _baseBuffer = std::make_unique<zel_ImageBuffer>();
     _baseBuffer->SetIOBufferSize(kBaseBufferIOBytes);
     gAppBaseBuffer = _baseBuffer.get();

@@ -1,8 +1,10 @@
 #include "viewer/ViewerMenus.h"
 
+#include "app/grid/GridSetups.h"
 #include "dicom_core/opening/RecentDocuments.h"
 #include "platform/Words.h"
 #include "viewer/DocumentIcon.h"
+#include "viewer/GridPane.h"
 #include "viewer/ViewerCommands.h"
 #include "viewer/ViewerWords.h"
 
@@ -44,4 +46,142 @@ void AddFileMenu(QMainWindow* window, ViewerCommands* commands)
     file->addAction(ViewerWord("&Close"), QKeySequence::Close, window, &QWidget::close);
     file->addAction(ViewerWord("&Quit"), Qt::CTRL | Qt::Key_Q, window,
                     [commands] { commands->quit(); });
+}
+
+// ---- View ----
+
+namespace {
+
+// A menu whose entries find the pane, and say what they are when it shows.
+class PaneMenu {
+public:
+    PaneMenu(QMenu* menu, GridPane* pane) : fMenu(menu), fPane(pane) {}
+
+    [[nodiscard]] QMenu* menu() const { return fMenu; }
+    template <typename Work>
+    QAction* Add(const char* title, const QKeySequence& shortcut, Work work)
+    {
+        GridPane* pane = fPane;
+        return fMenu->addAction(ViewerWord(title), shortcut, fMenu, [pane, work] {
+            if (pane->proxy())
+                work(*pane);
+        });
+    }
+    // With a mark where `isOn` holds.
+    template <typename IsOn, typename Work>
+    void AddMarked(const char* title, const QKeySequence& shortcut, IsOn isOn, Work work)
+    {
+        QAction* action = Add(title, shortcut, work);
+        action->setCheckable(true);
+        GridPane* pane = fPane;
+        QObject::connect(fMenu, &QMenu::aboutToShow, action, [action, pane, isOn] {
+            action->setChecked(pane->proxy() && isOn(*pane));
+        });
+    }
+
+private:
+    QMenu* fMenu;
+    GridPane* fPane;
+};
+
+void AddLooks(PaneMenu menu)
+{
+    menu.Add("Zoom &In", QKeySequence::ZoomIn,
+             [](GridPane& p) { p.actions().nextZoomValue(p.grid()); });
+    menu.Add("Zoom &Out", QKeySequence::ZoomOut,
+             [](GridPane& p) { p.actions().prevZoomValue(p.grid()); });
+    menu.Add("&Actual Size", Qt::CTRL | Qt::Key_1,
+             [](GridPane& p) { p.actions().normalZoomValue(p.grid()); });
+    menu.Add("&Fit in Window", Qt::CTRL | Qt::Key_0,
+             [](GridPane& p) { p.actions().autoFitView(p.grid(), 0); });
+    menu.menu()->addSeparator();
+    menu.Add("&Invert", Qt::CTRL | Qt::Key_I,
+             [](GridPane& p) { p.actions().invertColorsForView(p.grid(), 0); });
+    menu.Add("Rotate &Left", Qt::CTRL | Qt::Key_L,
+             [](GridPane& p) { p.actions().rotateView(p.grid(), 0, true); });
+    menu.Add("Rotate &Right", Qt::CTRL | Qt::Key_R,
+             [](GridPane& p) { p.actions().rotateView(p.grid(), 0, false); });
+    menu.Add("Flip &Horizontal", Qt::CTRL | Qt::SHIFT | Qt::Key_H,
+             [](GridPane& p) { p.actions().flipView(p.grid(), 0, false); });
+    menu.Add("Flip &Vertical", Qt::CTRL | Qt::SHIFT | Qt::Key_V,
+             [](GridPane& p) { p.actions().flipView(p.grid(), 0, true); });
+    menu.menu()->addSeparator();
+    menu.Add("Original &Window", Qt::CTRL | Qt::SHIFT | Qt::Key_O,
+             [](GridPane& p) { p.actions().originalWWWLorBnC(); });
+    menu.Add("Reset &All", Qt::CTRL | Qt::SHIFT | Qt::Key_R,
+             [](GridPane& p) { p.actions().resetAllChanges(); });
+}
+
+void AddShown(PaneMenu menu)
+{
+    menu.AddMarked(
+        "&Text", Qt::CTRL | Qt::Key_T,
+        [](GridPane& p) { return p.proxy()->viewShowsDemographics(); },
+        [](GridPane& p) {
+            p.proxy()->setViewShowsDemographics(p.proxy()->viewShowsDemographics() ? 0 : 1);
+            p.view()->setNeedsDisplay();
+        });
+    menu.AddMarked(
+        "R&uler", Qt::CTRL | Qt::Key_U, [](GridPane& p) { return p.proxy()->viewShowsScale(); },
+        [](GridPane& p) {
+            p.proxy()->setViewShowsScale(!p.proxy()->viewShowsScale());
+            p.view()->setNeedsDisplay();
+        });
+    menu.AddMarked(
+        "O&verlays", Qt::CTRL | Qt::Key_Y,
+        [](GridPane& p) { return p.proxy()->viewShowsDicomOverlays(); },
+        [](GridPane& p) {
+            p.proxy()->setViewShowsDicomOverlays(!p.proxy()->viewShowsDicomOverlays());
+            p.view()->setNeedsDisplay();
+        });
+}
+
+void AddGrids(PaneMenu menu)
+{
+    for (int setup = 0; setup < static_cast<int>(kGridShapes.size()); ++setup) {
+        const GridShape& shape = kGridShapes[static_cast<unsigned>(setup)];
+        const std::string title =
+            std::to_string(shape.rows) + " × " + std::to_string(shape.columns);
+        menu.AddMarked(
+            title.c_str(), {}, [setup](GridPane& p) { return p.grid().gridSetupID() == setup; },
+            [setup](GridPane& p) { p.grid().setGridSetupID(setup); });
+    }
+}
+
+}  // namespace
+
+void AddViewMenus(QMainWindow* window, GridPane* pane)
+{
+    QMenu* view = window->menuBar()->addMenu(ViewerWord("&View"));
+    AddLooks({view, pane});
+    view->addSeparator();
+    AddGrids({view->addMenu(ViewerWord("Image &Grid")), pane});
+    AddShown({view, pane});
+    view->addSeparator();
+    PaneMenu sequences(view, pane);
+    sequences.Add("&Previous Sequence", Qt::CTRL | Qt::Key_Left,
+                  [](GridPane& p) { p.actions().gotoPreviousSequence(p.grid()); });
+    sequences.Add("&Next Sequence", Qt::CTRL | Qt::Key_Right,
+                  [](GridPane& p) { p.actions().gotoNextSequence(p.grid()); });
+
+    PaneMenu tools(window->menuBar()->addMenu(ViewerWord("&Tools")), pane);
+    struct Row {
+        const char* title;
+        std::int32_t tool;
+        QKeySequence shortcut;
+    };
+    for (const Row& row : {Row{"&Window and Level", kToolWindow, Qt::Key_W},
+                           Row{"&Pan", kToolPan, Qt::Key_P}, Row{"&Zoom", kToolZoom, Qt::Key_Z}})
+        tools.AddMarked(
+            row.title, row.shortcut,
+            [tool = row.tool](GridPane& p) { return p.tools().currentTool() == tool; },
+            [tool = row.tool](GridPane& p) { p.tools().changeToolTo(tool); });
+    tools.menu()->addSeparator();
+    tools.AddMarked(
+        "Apply to Whole &Sequence", Qt::Key_S,
+        [](GridPane& p) { return p.toolScope().isSequence(); },
+        [](GridPane& p) {
+            p.toolScope().setToolScope(p.toolScope().isSequence() ? ToolScope::kFrame
+                                                                  : ToolScope::kSequence);
+        });
 }

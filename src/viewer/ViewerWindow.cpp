@@ -5,59 +5,27 @@
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "viewer/DocumentIcon.h"
 #include "viewer/DroppedPaths.h"
-#include "viewer/FrameSteps.h"
 #include "viewer/ViewerCommands.h"
 #include "viewer/ViewerMenus.h"
 #include "viewer/ViewerWords.h"
 
 #include <QDragEnterEvent>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QMimeData>
 #include <QScreen>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTreeView>
-#include <cmath>
 #include <filesystem>
-#include <optional>
 
 namespace {
 
 constexpr int kLabelMargin = 6;         // view points, left and right
 constexpr int kListWidth = 300;         // view points, at first
 constexpr QSize kFirstSize(1000, 800);  // view points, where the screen has room
-
-QString NumberText(double value)
-{
-    const bool whole = value == std::round(value);
-    const int decimals = whole ? 0 : std::abs(value) < 10 ? 3 : 1;
-    return QLocale().toString(value, 'f', decimals);
-}
-
-std::optional<FrameStep> StepForKey(int key)
-{
-    switch (key) {
-        case Qt::Key_Up:
-        case Qt::Key_Left:
-            return FrameStep::Previous;
-        case Qt::Key_Down:
-        case Qt::Key_Right:
-            return FrameStep::Next;
-        case Qt::Key_PageUp:
-            return FrameStep::TenBack;
-        case Qt::Key_PageDown:
-            return FrameStep::TenOn;
-        case Qt::Key_Home:
-            return FrameStep::First;
-        case Qt::Key_End:
-            return FrameStep::Last;
-        default:
-            return std::nullopt;
-    }
-}
 
 }  // namespace
 
@@ -66,9 +34,9 @@ ViewerWindow::ViewerWindow(ViewerCommands* commands, std::unique_ptr<ZELDcmTree>
     : _commands(commands),
       _document(document),
       _tree(std::move(tree)),
+      _pane(_tree.get()),
       _sequences(RowsOfTree(*_tree)),
       _list(new QTreeView(this)),
-      _view(new MUPhotoView(this)),
       _file(addStatusLabel(true)),
       _frame(addStatusLabel(false)),
       _window(addStatusLabel(false))
@@ -76,11 +44,16 @@ ViewerWindow::ViewerWindow(ViewerCommands* commands, std::unique_ptr<ZELDcmTree>
     setWindowTitle(WindowTitleText(DisplayName(represented)));
     setAcceptDrops(true);
     AddFileMenu(this, commands);
+    AddViewMenus(this, &_pane);
     layOut();
-    _view->setDelegate(&_delegate);
-    _view->setFocus();
+    _pane.view()->setFocus();
+    _pane.sequenceChanged = [this](dk_SequenceBase* sequence) {
+        const QSignalBlocker blocker(_list->selectionModel());
+        _list->setCurrentIndex(_sequences.indexOf(sequence));
+        _list->viewport()->update();
+    };
     // Queued: labels are not changed while cells are being painted.
-    connect(_view, &MUPhotoView::cellsPainted, this, &ViewerWindow::onPainted,
+    connect(_pane.view(), &MUPhotoView::cellsPainted, this, &ViewerWindow::onPainted,
             Qt::QueuedConnection);
     connect(_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ViewerWindow::showSequenceAt);
@@ -91,8 +64,8 @@ ViewerWindow::ViewerWindow(ViewerCommands* commands, std::unique_ptr<ZELDcmTree>
 ViewerWindow::~ViewerWindow()
 {
     // The widgets go after the members that they show.
-    _view->setDelegate(nullptr);
     _list->setModel(nullptr);
+    _pane.showSequence(nullptr);
     for (int row = 0; row < _sequences.rowCount(); ++row) {
         if (const TreeRow& shown = _sequences.treeRow(row); shown.IsSequence())
             ForgetBufferedFrames(shown.Sequence());
@@ -102,11 +75,11 @@ ViewerWindow::~ViewerWindow()
 void ViewerWindow::layOut()
 {
     _frame->setToolTip(ViewerWord("Frame shown, and how many there are"));
-    _view->setAccessibleName(ViewerWord("Picture"));
+    _pane.view()->setAccessibleName(ViewerWord("Picture"));
     layOutList();
     auto* splitter = new QSplitter(this);
     splitter->addWidget(_list);
-    splitter->addWidget(_view);
+    splitter->addWidget(_pane.view());
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({kListWidth, kFirstSize.width() - kListWidth});
     setCentralWidget(splitter);
@@ -155,17 +128,6 @@ QLabel* ViewerWindow::addStatusLabel(bool stretched)
     return label;
 }
 
-void ViewerWindow::keyPressEvent(QKeyEvent* event)
-{
-    const bool plain = !(event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
-    const auto step = plain ? StepForKey(event->key()) : std::nullopt;
-    if (!step)
-        return QMainWindow::keyPressEvent(event);
-    const int count = _view->matrix().photoCount();
-    if (count > 0)
-        _view->scrollToPhotoAtIndex(SteppedIndex(*step, _view->firstVisibleIndex(), count));
-}
-
 void ViewerWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     if (!PathsOfDrag(*event->mimeData()).empty())
@@ -191,57 +153,56 @@ void ViewerWindow::onPainted()
         _painted = true;
         setWindowIcon(DocumentIcon(_document));  // late: reading icons takes longer than painting
     }
-    if (_view->isSettled() && _whenPainted)
+    if (_pane.view()->isSettled() && _whenPainted)
         std::exchange(_whenPainted, nullptr)();
 }
 
 void ViewerWindow::showSequenceAt(const QModelIndex& row)
 {
     const TreeRow shown = row.isValid() ? _sequences.treeRow(row.row()) : TreeRow();
-    _delegate.setSequence(shown.IsSequence() ? shown.Sequence() : nullptr);
-    _view->setDelegate(&_delegate);  // it has other photos now
-    _view->scrollToPhotoAtIndex(0);
+    _pane.showSequence(shown.IsSequence() ? shown.Sequence() : nullptr);
     updateStatus();
 }
 
 void ViewerWindow::updateStatus()
 {
-    const int count = _delegate.photoCountForPhotoView();
-    if (count == 0) {
+    const ZELSequenceProxy* proxy = _pane.proxy();
+    if (!proxy || !proxy->isGood()) {
         _file->clear();
         _frame->setText(ViewerWord("There are no frames to show"));
         return setWindowText({});
     }
-    const int index = _view->firstVisibleIndex();
-    const SequenceDelegate::Caption caption = _delegate.captionAtIndex(index);
+    const GridPane::Caption caption = _pane.caption();
     setFileText(caption);
     const QLocale locale;
     const QString frame =
-        ViewerWord("Frame %1 of %2").arg(locale.toString(index + 1), locale.toString(count));
+        ViewerWord("Frame %1 of %2")
+            .arg(locale.toString(proxy->currentFrame()), locale.toString(proxy->totalFrames()));
     _frame->setText(frame);
     setWindowText(caption);
-    _view->setAccessibleDescription(
+    _pane.view()->setAccessibleDescription(
         QStringList{_file->accessibleName(), frame, _window->text()}.join(QStringLiteral(", ")));
 }
 
-void ViewerWindow::setWindowText(const SequenceDelegate::Caption& caption)
+void ViewerWindow::setWindowText(const GridPane::Caption& caption)
 {
     QString text;
     if (caption.failed)
         text = ViewerWord("This frame can't be shown");
-    else if (caption.hasWindow)
-        text = ViewerWord("Window %1, level %2")
-                   .arg(NumberText(caption.width), NumberText(caption.level));
+    else if (!caption.width.empty())
+        text =
+            ViewerWord("Window %1, level %2")
+                .arg(QString::fromStdString(caption.width), QString::fromStdString(caption.level));
     _window->setText(text);
     _window->setVisible(!text.isEmpty());
-    _window->setToolTip(caption.hasWindow ? ViewerWord("Window width and level of this frame")
-                                          : QString());
+    _window->setToolTip(!caption.width.empty() ? ViewerWord("Window width and level of this frame")
+                                               : QString());
 }
 
-void ViewerWindow::setFileText(const SequenceDelegate::Caption& caption)
+void ViewerWindow::setFileText(const GridPane::Caption& caption)
 {
     QString name = DisplayText(std::filesystem::path(caption.path).filename().native());
-    if (caption.framesOfFile > 1 && caption.framesOfFile < _delegate.photoCountForPhotoView()) {
+    if (caption.framesOfFile > 1 && caption.framesOfFile < _pane.proxy()->totalFrames()) {
         const QLocale locale;
         name =
             ViewerWord("%1 (%2 of %3)")

@@ -1,10 +1,8 @@
-// A window on one opened tree: a list of its sequences, a photo view of the chosen one, a frame at
-// a time, and a line below that says which. Pages by wheel, scroll bar, arrow keys, Page Up and
-// Down, Home and End; files and folders dropped on it are opened. Main thread only.
+// A window on one opened tree: a list of its sequences, a grid of the chosen one, and a line below
+// that says which frame is at hand. Files and folders dropped on it are opened. Main thread only.
 #pragma once
-#include "app/views/MUPhotoView.h"
 #include "dicom_core/opening/RecentDocuments.h"
-#include "viewer/SequenceDelegate.h"
+#include "viewer/GridPane.h"
 #include "viewer/SequenceListModel.h"
 
 #include <QMainWindow>
@@ -31,7 +29,6 @@ public:
     void whenPainted(std::function<void()> painted) { _whenPainted = std::move(painted); }
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -43,16 +40,15 @@ private:
     void onPainted();
     void showSequenceAt(const QModelIndex& row);
     void updateStatus();
-    void setFileText(const SequenceDelegate::Caption& caption);
-    void setWindowText(const SequenceDelegate::Caption& caption);
+    void setFileText(const GridPane::Caption& caption);
+    void setWindowText(const GridPane::Caption& caption);
 
     ViewerCommands* _commands;
     ZELRecentDocument _document;
     std::unique_ptr<ZELDcmTree> _tree;
-    SequenceDelegate _delegate;
+    GridPane _pane;
     SequenceListModel _sequences;  // rows of `_tree`
     QTreeView* _list;
-    MUPhotoView* _view;
     QLabel *_file, *_frame, *_window;
     std::function<void()> _whenPainted;
     bool _painted = false;

@@ -47,6 +47,8 @@ public:
     void remove(std::int32_t frame);
     void removeAll();
     [[nodiscard]] std::size_t bytes() const { return _kept.Bytes(); }
+    // The frame asked for last, if its picture could not be made; else 0.
+    [[nodiscard]] std::int32_t failedFrame() const { return _failedFrame; }
     // Pictures rendered since the object was made.
     [[nodiscard]] std::int64_t rendered() const { return _rendered; }
 

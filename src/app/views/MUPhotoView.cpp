@@ -1,13 +1,10 @@
 #include "app/views/MUPhotoView.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QWheelEvent>
-#include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace {
 
@@ -27,91 +24,14 @@ MUPhotoView::MUPhotoView(QWidget* parent) : QAbstractScrollArea(parent)
     connect(&_liveResize, &QTimer::timeout, viewport(), qOverload<>(&QWidget::update));
 }
 
-void MUPhotoView::setDelegate(MUPhotoViewDelegate* delegate)
+void MUPhotoView::syncScrollBar()
 {
-    _delegate = delegate;
-    updateGrid();
-    viewport()->update();
-}
-
-void MUPhotoView::updatePhotoCount()
-{
-    const MUPhotoMatrix::IndexRange shown{firstVisibleIndex(), _visibleRows * _visibleColumns};
-    const int before = _matrix.photoCount();
-    updateGrid();
-    // Photos that came behind the visible ones change nothing that shows.
-    if (std::min(before, _matrix.photoCount()) < shown.first + shown.count)
-        viewport()->update();
-}
-
-void MUPhotoView::setLook(const MUPhotoViewLook& look)
-{
-    _look = look;
-    _matrix.setSpacing(look.photoHorizontalSpacing, look.photoVerticalSpacing);
-    updateGrid();
-    viewport()->update();
-}
-
-void MUPhotoView::setVisibleCells(int rows, int columns)
-{
-    const int index = firstVisibleIndex();
-    _visibleRows = std::max(1, rows);
-    _visibleColumns = std::max(1, columns);
-    updateGrid();
-    if (index < _matrix.photoCount())
-        scrollToPhotoAtIndex(index);
-    viewport()->update();
-}
-
-void MUPhotoView::setSelectedPhotoIndex(std::optional<int> index)
-{
-    if (_selectedPhotoIndex)
-        setNeedsDisplayForIndex(*_selectedPhotoIndex);
-    _selectedPhotoIndex = index;
-    if (_selectedPhotoIndex)
-        setNeedsDisplayForIndex(*_selectedPhotoIndex);
-}
-
-void MUPhotoView::updateGrid()
-{
-    const QSize content = viewport()->size();
-    _matrix.updateGridSize(XPoint{double(content.height()), double(content.width())}, _visibleRows,
-                           _visibleColumns, _delegate ? _delegate->photoCountForPhotoView() : 0);
+    const GridViewport* shown = cells();
     QScrollBar* bar = verticalScrollBar();
-    bar->setPageStep(_visibleRows);
-    bar->setRange(0, _matrix.lastFirstRow());
-}
-
-QRectF MUPhotoView::cellContentRect() const
-{
-    const CGSize cell = _matrix.gridCellSize();
-    const double inset = _look.selectionBorderWidth;
-    return {inset, inset, std::max(0.0, cell.width - 2 * inset),
-            std::max(0.0, cell.height - 2 * inset)};
-}
-
-int MUPhotoView::firstVisibleIndex() const
-{
-    return verticalScrollBar()->value() * _matrix.columns();
-}
-
-QPointF MUPhotoView::viewPointFor(const QPointF& viewportPoint) const
-{
-    return viewportPoint + QPointF(0, _matrix.topOfRow(verticalScrollBar()->value()));
-}
-
-void MUPhotoView::scrollToPhotoAtIndex(int index)
-{
-    QScrollBar* bar = verticalScrollBar();
-    bar->setValue(_matrix.firstRowShowing(index, bar->value()));
-}
-
-void MUPhotoView::setNeedsDisplayForIndex(int index)
-{
-    const double pixelRatio = viewport()->devicePixelRatioF();
-    const QRect device = deviceRectForIndex(index, pixelRatio);
-    const QRectF cell(QPointF(device.topLeft()) / pixelRatio, QSizeF(device.size()) / pixelRatio);
-    viewport()->update(cell.toAlignedRect());
+    const QSignalBlocker blocker(bar);
+    bar->setPageStep(shown ? shown->gridRows() : 1);
+    bar->setRange(0, shown ? shown->matrix().lastFirstRow() : 0);
+    bar->setValue(shown ? shown->firstRow() : 0);
 }
 
 bool MUPhotoView::eventFilter(QObject* watched, QEvent* event)
@@ -124,10 +44,23 @@ bool MUPhotoView::eventFilter(QObject* watched, QEvent* event)
     return QAbstractScrollArea::eventFilter(watched, event);
 }
 
+void MUPhotoView::paintEvent(QPaintEvent* event)
+{
+    // The window may have come to a screen of another scale factor.
+    const GridViewport* shown = cells();
+    if (shown && shown->pixelRatio() != viewport()->devicePixelRatioF())
+        contentDidResize(viewport()->size(), viewport()->devicePixelRatioF());
+    QPainter painter(viewport());
+    drawRect(&painter, event->rect());
+    painter.end();
+    emit cellsPainted();
+}
+
 void MUPhotoView::resizeEvent(QResizeEvent* event)
 {
     QAbstractScrollArea::resizeEvent(event);
-    updateGrid();
+    contentDidResize(viewport()->size(), viewport()->devicePixelRatioF());
+    syncScrollBar();
     _liveResize.start();
 }
 
@@ -135,21 +68,14 @@ void MUPhotoView::wheelEvent(QWheelEvent* event)
 {
     if (event->phase() == Qt::ScrollBegin)
         _wheel.reset();
-    QScrollBar* bar = verticalScrollBar();
-    bar->setValue(bar->value() - _wheel.add(event->angleDelta().y()));
+    if (const int steps = _wheel.add(event->angleDelta().y()))
+        wheelBy(steps);
     event->accept();
-}
-
-void MUPhotoView::keyPressEvent(QKeyEvent* event) { event->ignore(); }
-
-void MUPhotoView::mousePressEvent(QMouseEvent* event)
-{
-    mouseDownPoint = viewPointFor(event->position());
-    potentialDragDrop = false;
 }
 
 void MUPhotoView::scrollContentsBy(int /*dx*/, int /*dy*/)
 {
+    if (GridViewport* shown = cells(); shown && shown->setFirstRow(verticalScrollBar()->value()))
+        boundsDidChange();
     viewport()->update();
-    emit firstVisibleIndexChanged(firstVisibleIndex());
 }
