@@ -72,8 +72,7 @@ TEST(ZELSequenceGridView, goes_where_keys_lead)
         shown.grid.currZELSequence()->setCurrentFrame(row.from);
         QTest::keyClick(&*shown.view, row.key);
         EXPECT_EQ(shown.Frame(), row.to) << row.key;
-        EXPECT_TRUE(row.to == row.from ||
-                    shown.grid.viewport().isCellVisible(row.to - 1, false))
+        EXPECT_TRUE(row.to == row.from || shown.grid.viewport().isCellVisible(row.to - 1, false))
             << row.key;
     }
     Shown shown;
