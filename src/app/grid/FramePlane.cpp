@@ -1,6 +1,6 @@
 #include "app/grid/FramePlane.h"
 
-#include "dicom_core/tree/dk_SequenceBase.h"
+#include "dicom_core/tree/dk_DicomSequence.h"
 #include "dicom_core/values/FrameGroups.h"
 
 #include "qpix/zelImageSource.h"
@@ -48,7 +48,7 @@ QLineF Within(QPointF a, QPointF b)
 
 }  // namespace
 
-std::optional<FramePlane> FramePlaneOf(dk_SequenceBase* sequence, int frame)
+std::optional<FramePlane> FramePlaneOf(dk_Sequence* sequence, int frame)
 {
     dk_ImageFrameInfo* info = sequence ? sequence->GetImageFrameInfo(frame) : nullptr;
     Point stored, shown;
@@ -64,14 +64,18 @@ std::optional<FramePlane> FramePlaneOf(dk_SequenceBase* sequence, int frame)
                                                     &plane) ||
         !(plane.fRowSpacing > 0) || !(plane.fColumnSpacing > 0))
         return std::nullopt;
-    return FramePlane{plane.fCosines.fRow,
-                      plane.fCosines.fColumn,
-                      plane.fPosition,
-                      plane.fColumnSpacing,
-                      plane.fRowSpacing,
-                      stored.h,
-                      stored.v,
-                      QSizeF(shown.h, shown.v)};
+    FramePlane found{plane.fCosines.fRow,
+                     plane.fCosines.fColumn,
+                     plane.fPosition,
+                     plane.fColumnSpacing,
+                     plane.fRowSpacing,
+                     stored.h,
+                     stored.v,
+                     QSizeF(shown.h, shown.v),
+                     {}};
+    if (sequence->GetFrameOfReferenceUID(frame, &found.frameOfReference))
+        return std::nullopt;
+    return found;
 }
 
 std::array<QLineF, 4> ProjectedOutline(const FramePlane& frame, const FramePlane& onto)

@@ -20,13 +20,6 @@ bool SupportsLocalizers(const ZELSequenceGridViewModelController* grid)
     return sequence && Modality_SupportsLocalizers(sequence->GetModality());
 }
 
-bool ShareFrameOfReference(dk_Sequence* active, dk_Sequence* other, std::int32_t frame)
-{
-    std::string here, there;
-    return active->GetFrameOfReferenceUID(0, &there) == kQvxOK &&
-           other->GetFrameOfReferenceUID(frame, &here) == kQvxOK && here == there;
-}
-
 // The frames of the active sequence whose outlines are drawn, in that order.
 std::vector<std::int32_t> FramesToProject(const dk_Sequence& active, std::int32_t current,
                                           std::int32_t total)
@@ -46,16 +39,16 @@ std::vector<std::int32_t> FramesToProject(const dk_Sequence& active, std::int32_
 std::vector<QLineF> LocalizerLinesOf(ZELSequenceGridViewModelController& active,
                                      ZELSequenceGridViewModelController& grid, std::int32_t frame)
 {
-    dk_Sequence* theirs = DicomSequenceOf(active);
-    dk_Sequence* ours = DicomSequenceOf(grid);
-    if (!theirs || !ours || !theirs->HasLocalizerSpatialData() ||
-        !ours->HasLocalizerSpatialData() || !ShareFrameOfReference(theirs, ours, frame))
+    const dk_Sequence* theirs = DicomSequenceOf(active);
+    if (!theirs || !SupportsLocalizers(&active) || !SupportsLocalizers(&grid))
         return {};
+    // By the planes, which are read once: this is asked at every painting.
+    const ZELSequenceProxy& proxy = *active.currZELSequence();
     const auto onto = grid.planeOfFrame(frame);
-    if (!onto)
+    const auto current = active.planeOfFrame(proxy.currentFrame());
+    if (!onto || !current || onto->frameOfReference != current->frameOfReference)
         return {};
     std::vector<QLineF> lines;
-    const ZELSequenceProxy& proxy = *active.currZELSequence();
     for (const std::int32_t each :
          FramesToProject(*theirs, proxy.currentFrame(), proxy.totalFrames())) {
         if (const auto& plane = active.planeOfFrame(each)) {

@@ -2,7 +2,7 @@
 #include "app/grid/ZELSequenceGridViewModelController.h"
 
 #include "app/grid/GridSetups.h"
-#include "dicom_core/tree/dk_SequenceBase.h"
+#include "dicom_core/tree/dk_DicomSequence.h"
 #include "platform/NotificationCenter.h"
 #include "util/Log.h"
 
@@ -265,6 +265,6 @@ const std::optional<FramePlane>& ZELSequenceGridViewModelController::planeOfFram
 {
     const auto [place, isNew] = _planes.try_emplace(frame);
     if (isNew)
-        place->second = FramePlaneOf(curr_dkSequence(), frame);
+        place->second = FramePlaneOf(dynamic_cast<dk_Sequence*>(curr_dkSequence()), frame);
     return place->second;
 }
