@@ -64,7 +64,7 @@ GridPane::Caption GridPane::caption() const
     caption.path = info->fSource->GetDataPath();
     caption.frame = info->fFrameInFile;
     caption.framesOfFile = frames;
-    caption.failed = _grid.pictures().failedFrame() == proxy()->currentFrame();
+    caption.failed = _grid.pictures().hasFailed(proxy()->currentFrame());
     const zel_TransformRec& record = info->fTransform;
     if (!caption.failed && proxy()->isDICOMGray() && record.voiWidth > 0) {
         caption.width = WindowValueText(record.voiInfo, record.voiWidth);

@@ -4,10 +4,8 @@
 #include "app/draw/SavedPainter.h"
 #include "app/grid/ZELSequenceGridViewModelController.h"
 #include "prefs/Prefs.h"
-#include "util/Log.h"
 
 #include <QIcon>
-#include <string>
 
 namespace {
 
@@ -48,7 +46,6 @@ void GridPainter::DrawPhoto(int index, const QRectF& cell) const
     const bool fast = view && (view->inLiveResize() || view->userIsDrawing());
     const CellPhoto photo = fast ? fGrid.fastPhotoAtIndex(index) : fGrid.photoAtIndex(index);
     if (photo.isNull()) {
-        LogLine("drawRect ERROR: photo == nil for frame: " + std::to_string(index + 1));
         QRect place(0, 0, kWarningSide, kWarningSide);
         place.moveCenter(cell.center().toPoint());
         QIcon(QStringLiteral(":/icons/warning.svg")).paint(fPainter, place);

@@ -19,6 +19,6 @@ struct GridLook {
 };
 
 // Paints the cells that `dirty` touches, of a grid whose visible part has its top left corner at
-// the painter's origin. A frame without picture shows a warning sign, and is logged.
+// the painter's origin. A frame without picture shows a warning sign.
 void DrawGrid(QPainter* painter, ZELSequenceGridViewModelController& grid, const QRectF& dirty,
               const GridLook& look);

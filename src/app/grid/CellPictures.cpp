@@ -5,10 +5,12 @@
 #include "dicom_core/imaging/zel_QTViewerDoc.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
 #include "prefs/Prefs.h"
+#include "util/Log.h"
 
 #include "qpix/OffscreenForFrame.h"
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 namespace {
 
@@ -75,7 +77,7 @@ CellPhoto CellPictures::photo(std::int32_t frame, const CellGeometry& geometry, 
 {
     dk_ImageFrameInfo* info = _sequence ? _sequence->GetImageFrameInfo(frame) : nullptr;
     const DevicePlace place = PlaceOf(geometry, pixelRatio);
-    if (!info || place.shown.isEmpty() || frame == _failedFrame)
+    if (!info || place.shown.isEmpty() || hasFailed(frame))
         return {};
     const QRectF rect(QPointF(place.shown.topLeft()) / place.ratio,
                       QSizeF(place.shown.size()) / place.ratio);
@@ -86,9 +88,11 @@ CellPhoto CellPictures::photo(std::int32_t frame, const CellGeometry& geometry, 
             return {kept->image, rect};
     }
     const QImage image = render(frame, info, place.whole, place.shown);
-    _failedFrame = image.isNull() ? frame : 0;
-    if (image.isNull())
+    if (image.isNull()) {
+        LogLine("drawRect ERROR: photo == nil for frame: " + std::to_string(frame));
+        _failed.insert(frame);
         return {};
+    }
     // The look after it: the first rendering sets up the window.
     _kept.Put(frame, {image, whole, lookOf(*info)}, static_cast<std::size_t>(image.sizeInBytes()));
     return {image, rect};
@@ -147,13 +151,12 @@ void CellPictures::dropDocument()
 void CellPictures::remove(std::int32_t frame)
 {
     _kept.Remove(frame);
-    if (frame == _failedFrame)
-        _failedFrame = 0;
+    _failed.erase(frame);
 }
 
 void CellPictures::removeAll()
 {
     _kept.Clear();
-    _failedFrame = 0;
+    _failed.clear();
     dropDocument();
 }

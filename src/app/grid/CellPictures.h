@@ -10,6 +10,7 @@
 #include <QImage>
 #include <cstdint>
 #include <memory>
+#include <unordered_set>
 
 class dk_ImageFrameInfo;
 class dk_SequenceBase;
@@ -34,8 +35,8 @@ public:
     void setSequence(dk_SequenceBase* sequence);  // not owned; all pictures go
 
     // The frame (from 1) as it looks now, where it lies by `geometry`, which must be that of its
-    // record. Null, with a line in the log, when it can't be made; not tried again then until
-    // another frame has been asked for or `remove`.
+    // record. Null when it can't be made: a line in the log then, and no further try until
+    // `remove`.
     [[nodiscard]] CellPhoto photo(std::int32_t frame, const CellGeometry& geometry,
                                   double pixelRatio);
     // What is kept of the frame, of whatever look and size, for where it lies now; null if nothing.
@@ -47,8 +48,8 @@ public:
     void remove(std::int32_t frame);
     void removeAll();
     [[nodiscard]] std::size_t bytes() const { return _kept.Bytes(); }
-    // The frame asked for last, if its picture could not be made; else 0.
-    [[nodiscard]] std::int32_t failedFrame() const { return _failedFrame; }
+    // Its picture could not be made.
+    [[nodiscard]] bool hasFailed(std::int32_t frame) const { return _failed.contains(frame); }
     // Pictures rendered since the object was made.
     [[nodiscard]] std::int64_t rendered() const { return _rendered; }
 
@@ -78,7 +79,8 @@ private:
     RecentItems<std::int32_t, Kept> _kept;
     // The frame rendered last stays loaded: a step of its window, zoom or pan decodes nothing.
     std::unique_ptr<zel_QTViewerDoc> _document;
-    std::int32_t _documentFrame = 0, _failedFrame = 0;
+    std::int32_t _documentFrame = 0;
+    std::unordered_set<std::int32_t> _failed;
     Look _documentLook;
     std::int64_t _rendered = 0;
     DecodeAhead _ahead;

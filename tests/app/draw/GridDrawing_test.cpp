@@ -3,6 +3,7 @@
 #include "app/draw/DrawnGrid.h"
 #include "dicom_core/store/TempFolder.h"
 #include "prefs/Prefs.h"
+#include "util/Log.h"
 
 #include <QTransform>
 #include <cmath>
@@ -203,6 +204,32 @@ TEST(DrawGrid, renders_only_the_cells_that_changed)
     const auto box = std::make_shared<Box>(QRectF(1, 1, 3, 3));
     grid.currZELSequence()->addNewMeasurement(box, true);
     EXPECT_EQ(paint(), 0) << "vectors are drawn over the same picture";
+}
+
+TEST(DrawGrid, tries_a_frame_that_fails_once)
+{
+    static int said = 0;  // lines of the log
+    said = 0;
+    SetLogSink([](std::string_view) { ++said; });
+    MadeSequence made;
+    for (int i = 0; i < 4; ++i) {
+        DicomBuilder file;
+        file.Meta("1.2.840.10008.1.2.4.70").CommonHeader();
+        AddPhantom(&made, "CT",
+                   file.Image({.rows = 8, .columns = 8}).Encapsulated({{"no such stream"}}));
+    }
+    TestWindow window;
+    Grid& grid = window.AddGrid(&made.sequence);
+    grid.setGridRowsTo(2, 2, true);
+    static_cast<void>(Painted(grid, {200, 200}, 1));
+    EXPECT_GE(std::exchange(said, 0), 4);
+    static_cast<void>(Painted(grid, {200, 200}, 1));
+    EXPECT_EQ(said, 0);
+    EXPECT_EQ(grid.pictures().rendered(), 4);
+    grid.removeFrameBuffersForAllFrames();
+    static_cast<void>(Painted(grid, {200, 200}, 1));
+    EXPECT_EQ(grid.pictures().rendered(), 8);
+    SetLogSink(nullptr);
 }
 
 TEST(DrawGrid, keeps_its_pictures_within_their_limit)
