@@ -15,8 +15,6 @@
 
 namespace {
 
-using Grid = ZELSequenceGridViewModelController;
-
 constexpr int kSide = 512, kFrames = 100;
 constexpr QSize kCell(1000, 1000);
 constexpr double kStepLimit = 2.5;

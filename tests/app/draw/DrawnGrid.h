@@ -1,73 +1,29 @@
 // What the tests of this folder share: a window of grids without widgets, and phantoms to show.
 #pragma once
 #include "app/draw/GridDrawing.h"
-#include "app/grid/ZELSequenceGridViewModelController.h"
+#include "app/grid/FakeHost.h"
 #include "dicom_core/annotations/PrepareSequenceAnnotations.h"
 #include "dicom_core/imaging/ImagingFixtures.h"
-#include "dicom_core/opening/ZELDcmTree.h"
 
 #include <QImage>
 #include <QPainter>
 
 // A window whose first grid is the active one.
-class TestWindow final : public GridHost, public ToolBox, public CineStage {
-public:
-    ZELSequenceGridViewModelController& AddGrid(dk_SequenceBase* sequence)
+struct TestWindow {
+    Grid& AddGrid(dk_SequenceBase* sequence)
     {
-        fGrids.push_back(std::make_unique<ZELSequenceGridViewModelController>(this));
-        fGrids.back()->setCurrZELSequence(std::make_shared<ZELSequenceProxy>(sequence));
-        return *fGrids.back();
+        made.push_back(std::make_unique<Grid>(&host));
+        host.grids.push_back(made.back().get());
+        host.active = host.grids.front();
+        made.back()->setCurrZELSequence(std::make_shared<ZELSequenceProxy>(sequence));
+        return *made.back();
     }
-    std::vector<ZELSequenceGridViewModelController*> gridControllers() const override
-    {
-        std::vector<ZELSequenceGridViewModelController*> grids;
-        for (const auto& grid : fGrids)
-            grids.push_back(grid.get());
-        return grids;
-    }
-    ZELSequenceGridViewModelController* activeSequenceGridController() const override
-    {
-        return fGrids.empty() ? nullptr : fGrids.front().get();
-    }
-    void activateGrid(ZELSequenceGridViewModelController&) override {}
-    void changeSequenceTo(std::shared_ptr<ZELSequenceProxy>,
-                          ZELSequenceGridViewModelController&) override
-    {
-    }
-    bool showLocalizers() const override { return fShowsLocalizers; }
-    bool zelWindowIsReady() const override { return true; }
-    bool windowIsClosing() const override { return false; }
-    const void* windowKey() const override { return this; }
-    void refreshZoomMenu() override {}
-    void refreshWindowControls() override {}
-    void refreshToolbarItems() override {}
-    void refreshRegionsMenu() override {}
-    void revealFile(const std::string&) override {}
-    ZELDcmTree* tree() const override { return nullptr; }
-    std::shared_ptr<ZELSequenceProxy> proxyOf(dk_SequenceBase*) override { return nullptr; }
-    void updateNodeForSequence(dk_SequenceBase*) override {}
-    bool hasSingleCineSequence() const override { return false; }
-    ToolBox& toolBox() override { return *this; }
-    ToolScope& toolScope() override { return fScope; }
-    CineStage& cineStage() override { return *this; }
-    void callOnMainThreadAndWait(const std::function<void()>& call) override { call(); }
-    std::int32_t currentTool() const override { return 0; }
-    bool isDrawingCrop() const override { return false; }
-    void U_FreezeTheCrop(ZELSequenceGridViewModelController&) override {}
-    void U_ActivateTheCrop(ZELSequenceGridViewModelController&) override {}
-    void startCine(ZELSequenceGridViewModelController&) override {}
-    void stopCine(ZELSequenceGridViewModelController&) override {}
-
-    bool fShowsLocalizers = false;
-
-private:
-    std::vector<std::unique_ptr<ZELSequenceGridViewModelController>> fGrids;
-    ToolScope fScope;
+    FakeHost host{nullptr};
+    std::vector<std::unique_ptr<Grid>> made;
 };
 
 // The grid as a screen of that scale factor shows it.
-inline QImage Painted(ZELSequenceGridViewModelController& grid, const QSize& size, double ratio,
-                      const GridLook& look = {})
+inline QImage Painted(Grid& grid, const QSize& size, double ratio, const GridLook& look = {})
 {
     QImage screen(
         QSize(static_cast<int>(size.width() * ratio), static_cast<int>(size.height() * ratio)),

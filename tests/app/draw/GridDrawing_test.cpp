@@ -11,8 +11,6 @@
 
 namespace {
 
-using Grid = ZELSequenceGridViewModelController;
-
 constexpr InSpace kNowhere{nullptr, nullptr, nullptr};
 
 // A box with a stroke in one colour, without label and shadow.
@@ -169,7 +167,7 @@ TEST(DrawGrid, frames_the_current_cell_of_the_active_grid_only)
         GridLook look;
         look.toScreen = row.toScreen;
         look.selectionBorderColor = Qt::green;
-        Grid& grid = *window.gridControllers()[static_cast<std::size_t>(row.drawn)];
+        Grid& grid = *window.host.grids[static_cast<std::size_t>(row.drawn)];
         const QImage picture = Painted(grid, {100, 100}, 1, look);
         const int from = row.rows == 1 ? 0 : 50;
         EXPECT_EQ(IsGreen(picture.pixel(from + 1, from + 20)), row.shown) << row.fault;
@@ -345,7 +343,7 @@ TEST(CellLayers, draw_reference_lines_over_the_pixels_that_a_slice_cuts)
     for (const int turn : {0, 90, 180, 270}) {
         for (const bool flip : {false, true}) {
             TestWindow window;
-            window.fShowsLocalizers = true;
+            window.host.localizers = true;
             Grid& active = window.AddGrid(&axial.sequence);
             Grid& grid = window.AddGrid(&scout.sequence);
             active.currZELSequence()->setCurrentFrame(3);  // at 20 mm

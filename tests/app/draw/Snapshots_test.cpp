@@ -9,8 +9,6 @@
 
 namespace {
 
-using Grid = ZELSequenceGridViewModelController;
-
 constexpr double kRatios[] = {1, 1.5, 2};
 constexpr InSpace kAxial{"-128\\-128\\0", "1\\0\\0\\0\\1\\0", "2\\2"};
 
@@ -127,13 +125,13 @@ TEST_F(Snapshots, of_reference_lines)
                PhantomFile("MR", {"-100\\-100\\-20", "0.8\\0.6\\0\\0\\0\\1", "1.5\\1.5"}, 128, 160)
                    .NativePixels(BodyPixels(128, 160)));
     prefs_Set_ShowFirstLastLocalizerLines(true);
-    window.fShowsLocalizers = true;
+    window.host.localizers = true;
     Grid& active = ShowAll(&made.sequence);
     active.currZELSequence()->setCurrentFrame(6);
     KeepAll(ShowAll(&other.sequence), {500, 400}, QStringLiteral("localizer"));
     KeepAll(ShowAll(&oblique.sequence), {500, 400}, QStringLiteral("oblique"));
-    EXPECT_EQ(window.gridControllers()[1]->localizersForFrame(1).size(), 12u);
-    EXPECT_EQ(window.gridControllers()[2]->localizersForFrame(1).size(), 12u);
+    EXPECT_EQ(window.host.grids[1]->localizersForFrame(1).size(), 12u);
+    EXPECT_EQ(window.host.grids[2]->localizersForFrame(1).size(), 12u);
     prefs_Set_ShowFirstLastLocalizerLines(false);
 }
 

@@ -1,6 +1,6 @@
-// What the tests of grids share: small trees of made files, a measurement, and a window's part
-// around grids that writes down what is asked of it.
+// What the tests of grids share: small trees of made files, a measurement, a window of two grids.
 #pragma once
+#include "app/grid/FakeHost.h"
 #include "app/grid/ViewerActions.h"
 #include "app/grid/ZELSequenceGridViewModelController.h"
 #include "dicom_core/imaging/LoadFrame.h"
@@ -16,9 +16,6 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
-
-using Words = std::vector<std::string>;
-using Grid = ZELSequenceGridViewModelController;
 
 // No lines in the log, where a test provokes them.
 class Quiet {
@@ -139,97 +136,6 @@ inline std::shared_ptr<Box> NewBox(const QRectF& place = {10, 10, 20, 20},
 {
     return std::make_shared<Box>(place, kind);
 }
-
-// A grid's view. Its name stands before each line of the log.
-class FakeSurface final : public GridSurface {
-public:
-    FakeSurface(std::string name, Words* log) : fName(std::move(name)), fLog(log) {}
-    void setNeedsDisplay() override { Write("all"); }
-    void setNeedsDisplayForFrame(std::int32_t frame) override
-    {
-        Write("frame " + std::to_string(frame));
-    }
-    void viewportDidChange() override { Write("viewport"); }
-    void updateTrackingAreas() override { Write("tracking"); }
-    void closePendingMeasurements(bool close) override { Write(close ? "close" : "drop"); }
-    void stopEditing() override { Write("stop editing"); }
-
-private:
-    void Write(const std::string& what) { fLog->push_back(fName + " " + what); }
-    std::string fName;
-    Words* fLog;
-};
-
-class FakeHost final : public GridHost, public ToolBox, public CineStage {
-public:
-    explicit FakeHost(ZELDcmTree* tree) : fTree(tree) {}
-
-    std::vector<Grid*> gridControllers() const override { return grids; }
-    Grid* activeSequenceGridController() const override { return active; }
-    void activateGrid(Grid& grid) override
-    {
-        active = &grid;
-        log.push_back("activate");
-    }
-    void changeSequenceTo(std::shared_ptr<ZELSequenceProxy> proxy, Grid& grid) override
-    {
-        log.push_back("change sequence");
-        grid.setCurrZELSequence(std::move(proxy));
-    }
-    bool showLocalizers() const override { return false; }
-    bool zelWindowIsReady() const override { return ready; }
-    bool windowIsClosing() const override { return closing; }
-    const void* windowKey() const override { return this; }
-    void refreshZoomMenu() override { log.push_back("zoom menu"); }
-    void refreshWindowControls() override { log.push_back("window controls"); }
-    void refreshToolbarItems() override { log.push_back("toolbar"); }
-    void refreshRegionsMenu() override { log.push_back("regions menu"); }
-    void revealFile(const std::string& path) override { log.push_back("reveal " + path); }
-    ZELDcmTree* tree() const override { return fTree; }
-    std::shared_ptr<ZELSequenceProxy> proxyOf(dk_SequenceBase* sequence) override
-    {
-        auto& proxy = fProxies[sequence];
-        if (!proxy)
-            proxy = std::make_shared<ZELSequenceProxy>(sequence);
-        return proxy;
-    }
-    void updateNodeForSequence(dk_SequenceBase*) override { log.push_back("node"); }
-    bool hasSingleCineSequence() const override { return singleCine; }
-    ToolBox& toolBox() override { return *this; }
-    ToolScope& toolScope() override { return scope; }
-    CineStage& cineStage() override { return *this; }
-    void callOnMainThreadAndWait(const std::function<void()>& call) override { call(); }
-
-    std::int32_t currentTool() const override { return tool; }
-    bool isDrawingCrop() const override { return drawingCrop; }
-    void U_FreezeTheCrop(Grid&) override { log.push_back("freeze crop"); }
-    void U_ActivateTheCrop(Grid&) override { log.push_back("activate crop"); }
-
-    void startCine(Grid& grid) override
-    {
-        log.push_back("start cine");
-        grid.setCineModeIsON(true);
-    }
-    void stopCine(Grid& grid) override
-    {
-        log.push_back("stop cine");
-        grid.setCineModeIsON(false);
-    }
-
-    // What has been asked since the last call.
-    Words Take() { return std::exchange(log, {}); }
-
-    Words log;
-    std::vector<Grid*> grids;
-    Grid* active = nullptr;
-    ToolScope scope;
-    std::int32_t tool = 0;
-    bool ready = true, closing = false, singleCine = false, drawingCrop = false;
-
-private:
-    ZELDcmTree* fTree;
-    std::map<dk_SequenceBase*, std::shared_ptr<ZELSequenceProxy>> fProxies;
-};
 
 // A window of two grids, A the active one, with the first two sequences of a tree (B empty where
 // there is only one). Cells hold frames at 100 percent: 64 by 48 within their borders.
