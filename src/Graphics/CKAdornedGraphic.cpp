@@ -15,15 +15,9 @@ bool CKAdornedGraphic::isVoid() const
     return false;
 }
 
-void CKAdornedGraphic::setStrokeColorCK(const QColor& color)
-{
-    Announce({"strokeColorCK", "strokeOpacity"}, [&] { setStrokeColor(color); });
-}
+void CKAdornedGraphic::setStrokeColorCK(const QColor& color) { setStrokeColor(color); }
 
-void CKAdornedGraphic::setFillColorCK(const QColor& color)
-{
-    Announce({"fillColorCK", "fillOpacity"}, [&] { setFillColor(color); });
-}
+void CKAdornedGraphic::setFillColorCK(const QColor& color) { setFillColor(color); }
 
 void CKAdornedGraphic::setStrokeOpacity(float alpha)
 {
@@ -57,11 +51,9 @@ void CKAdornedGraphic::setStrokeWidthString(const QString& text)
 
 void CKAdornedGraphic::setStrokeWidthCK(float width)
 {
-    Announce({"strokeWidthCK", "strokeWidthString"}, [&] {
-        if (!isDrawingStroke() && canSetDrawingStroke())
-            setHasStrokeON(true);
-        setStrokeWidth(width);
-    });
+    if (!isDrawingStroke() && canSetDrawingStroke())
+        setHasStrokeON(true);
+    setStrokeWidth(width);
 }
 
 void CKAdornedGraphic::setColor(const QColor& color)

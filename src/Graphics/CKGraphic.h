@@ -14,7 +14,9 @@ inline constexpr ShapeHandle kNoHandle = 0;
 
 // Keys: "bounds", "drawingFill", "fillColor", "drawingStroke", "strokeColor", "strokeWidth",
 // "locked". From them follow "drawingBounds", "drawingContents", "xPosition", "yPosition", "width",
-// "height" and "statisticsText".
+// "height", "statisticsText", and what a measurement calls its fill and stroke ("hasFillON",
+// "fillColorCK", "fillOpacity", "hasStrokeON", "strokeColorCK", "strokeOpacity", "strokeWidthCK",
+// "strokeWidthString").
 class CKGraphic : public ObservableKeys {
 public:
     CKGraphic();  // fill and stroke in the colours of the preferences

@@ -116,9 +116,8 @@ void FrameNavigation::handleMeasurementChange(const Notification& note)
     if (action == MeasurementAction::Added && !shape->_global) {
         grid->appendToAllFrames(shape);
     } else if (action == MeasurementAction::Deleted && shape->_global) {
-        for (std::int32_t frame = 1; frame <= grid->currZELSequence()->totalFrames(); ++frame)
-            grid->currZELSequence()->viewStateForFrame(frame)->shapesMgr().RemoveMeasurement(
-                shape.get(), true);
+        ZELSequenceProxy& proxy = *grid->currZELSequence();
+        proxy.removeMeasurement(shape, proxy.currentFrame(), true);
     } else {
         return;
     }

@@ -65,10 +65,12 @@ bool GridViewport::setScrollTop(double y)
     return setFirstRow(static_cast<int>(std::clamp(y / height, 0.0, 2e9)));
 }
 
-bool GridViewport::scrollToPhoto(int index)
+int GridViewport::firstRowShowing(int index) const
 {
-    return setFirstRow(fMatrix.firstRowShowing(index, fFirstRow));
+    return fMatrix.firstRowShowing(index, fFirstRow);
 }
+
+bool GridViewport::scrollToPhoto(int index) { return setFirstRow(firstRowShowing(index)); }
 
 std::optional<int> GridViewport::leadingPhoto() const
 {
@@ -94,9 +96,10 @@ std::optional<int> GridViewport::photoIndexForPoint(const QPointF& point) const
     // An edge that was snapped may have moved over the point.
     const QRectF cell = cellRect(*index);
     int found = *index;
-    if (point.x() >= cell.right())
+    const int column = *index % fMatrix.columns();
+    if (point.x() >= cell.right() && column + 1 < fMatrix.columns())
         ++found;
-    else if (point.x() < cell.left())
+    else if (point.x() < cell.left() && column > 0)
         --found;
     if (point.y() >= cell.bottom())
         found += fMatrix.columns();

@@ -31,6 +31,7 @@ public:
     // Each answers whether it has moved. A position is cut to a whole row.
     bool setFirstRow(int row);
     bool setScrollTop(double y);
+    [[nodiscard]] int firstRowShowing(int index) const;  // once it was scrolled to
     bool scrollToPhoto(int index);  // only if it isn't visible; an index out of range is 0
     // The photo that leads what is visible.
     [[nodiscard]] std::optional<int> leadingPhoto() const;

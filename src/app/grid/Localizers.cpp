@@ -67,10 +67,16 @@ bool LocalizerSwitch::canShowLocalizers() const
 void LocalizerSwitch::showHideLocalizers()
 {
     fShows = !fShows;
-    redrawOthers();
+    redrawAllOthers();
 }
 
 void LocalizerSwitch::redrawOthers()
+{
+    if (fShows)
+        redrawAllOthers();
+}
+
+void LocalizerSwitch::redrawAllOthers()
 {
     const auto grids = fHost->gridControllers();
     if (grids.size() < 2)

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] Item toolbarSegment() const;
 
 private:
+    void redrawAllOthers();
+
     GridHost* fHost;  // not owned
     bool fShows = false;
 };

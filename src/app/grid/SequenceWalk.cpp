@@ -61,7 +61,7 @@ void ViewerActions::gotoSequence(Grid& grid, bool next)
 
 void ViewerActions::U_DoJumpView(Grid& grid, const std::shared_ptr<ZELSequenceProxy>& proxy)
 {
-    if (!proxy)
+    if (!proxy || !proxy->theSequence())
         return;
     for (Grid* each : fHost->gridControllers()) {
         if (each->curr_dkSequence() == proxy->theSequence()) {

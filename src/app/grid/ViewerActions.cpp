@@ -325,13 +325,10 @@ void ViewerActions::resetAllChanges()
 // The view of the sequence as it was made: what is shown over frames, calibration, grid, speed.
 void ViewerActions::clearViewState()
 {
-    Grid& grid = *target();
-    ZELSequenceProxy& proxy = *grid.currZELSequence();
+    ZELSequenceProxy& proxy = *activeSequence();
     proxy.Announce({"viewShowsDemographics", "viewShowsScale", "viewShowsMeasurements",
                     "viewShowsDicomOverlays", "viewGridSetupID"},
                    [&] { proxy.theSequence()->ClearViewState(); });
-    const dk_SequenceViewState& state = *proxy.theSequence()->GetViewState();
-    grid.setGridRowsTo(state.fCurrRows, state.fCurrColumns, false);
     if (proxy.cineRate() != 1)
         proxy.setCineRate(1);
 }

@@ -29,6 +29,14 @@ QRectF CellAround(const QSizeF& content)
     return {0, 0, content.width() + 2 * kCellInset, content.height() + 2 * kCellInset};
 }
 
+constexpr double kMostPicturePixels = 128.0 * 1024 * 1024;
+
+// Of the image where no pan moves it.
+QPointF UnscrolledCorner(const CellGeometry& geometry)
+{
+    return geometry.imageRect().topLeft() - geometry.viewScroll();
+}
+
 }  // namespace
 
 QSizeF U_ScaledImageSize(const ZELSequenceProxy& proxy, std::int32_t frame, const QSizeF& content)
@@ -58,8 +66,11 @@ QImage U_SequencePhotoAtIndex(const ZELSequenceProxy& proxy, std::int32_t frame)
         return {};
     }
     const QSizeF size = U_NonScaledImageSize(proxy, frame);
-    const auto side = [](double length) {
-        return std::clamp(static_cast<int>(std::lround(length)), 1, kLongestPictureSide);
+    // One factor for both sides, so that a picture beyond what can be held keeps its form.
+    const double fit = std::min({1.0, kLongestPictureSide / std::max(size.width(), size.height()),
+                                 std::sqrt(kMostPicturePixels / (size.width() * size.height()))});
+    const auto side = [fit](double length) {
+        return std::max(static_cast<int>(std::lround(length * fit)), 1);
     };
     const QRect whole(0, 0, side(size.width()), side(size.height()));
     return RenderFrame(document, sequence, frame, whole, whole);
@@ -191,14 +202,14 @@ QPointF ZELSequenceGridViewModelController::viewPsaxnoLocToImageLoc(const QPoint
                                                                     std::int32_t frame) const
 {
     const CellGeometry geometry = geometryForFrame(frame);
-    return geometry.viewPointToFramePoint(location + geometry.imageRect().topLeft());
+    return geometry.viewPointToFramePoint(location + UnscrolledCorner(geometry));
 }
 
 QPointF ZELSequenceGridViewModelController::U_RotateFlipScaleImagePoint(const QPointF& point,
                                                                         std::int32_t frame) const
 {
     const CellGeometry geometry = geometryForFrame(frame);
-    return geometry.framePointToViewPoint(point) - geometry.imageRect().topLeft();
+    return geometry.framePointToViewPoint(point) - UnscrolledCorner(geometry);
 }
 
 QPointF ZELSequenceGridViewModelController::U_ReverseGeomTransformDeltaPoint(

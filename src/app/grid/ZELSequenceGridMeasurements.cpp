@@ -45,12 +45,12 @@ void ZELSequenceGridViewModelController::post(MeasurementAction action, std::int
 
 void ZELSequenceGridViewModelController::deleteSelectedMeasurement()
 {
-    if (!_currZELSequence)
-        return;
-    endGestures();  // which may end the current one
-    const CKShapePtr shape = _currZELSequence->currentMeasurement();
+    const CKShapePtr shape = _currZELSequence ? _currZELSequence->currentMeasurement() : nullptr;
     if (!shape || shape->isCrop())
         return;
+    endGestures();
+    if (shape != _currZELSequence->currentMeasurement())
+        return;  // it was unfinished, and is gone
     const std::int32_t frame = _currZELSequence->currentFrame();
     const std::int32_t position = _currZELSequence->measurementIndexForShape(shape.get(), frame);
     const bool global = shape->_global;
@@ -69,8 +69,10 @@ void ZELSequenceGridViewModelController::deleteMeasurementInFrame(const CKShapeP
     const std::int32_t number = resolved(frame);
     const bool isHere = number == _currZELSequence->currentFrame();
     const bool wasCurrent = isHere && shape == _currZELSequence->currentMeasurement();
-    if (wasCurrent)
+    if (shape == _currZELSequence->currentMeasurement())  // a global one also from other frames
         endGestures();
+    if (!shapes->Contains(shape.get()))
+        return;  // it was unfinished, and is gone
     const std::int32_t position = shapes->GetMeasurementIndex(shape.get());
     const bool global = shape->_global;
     _currZELSequence->removeMeasurement(shape, number, true);

@@ -100,7 +100,8 @@ void ZELSequenceGridViewModelController::prepareNextFrames(std::int32_t directio
     const std::int32_t seen = _viewport.gridRows() * columns;
     std::int32_t first = resolved(0) + direction;
     if (seen > 1) {
-        const std::int32_t top = _viewport.firstRow() * columns + 1;
+        // The frame is announced before the grid scrolls to it.
+        const std::int32_t top = _viewport.firstRowShowing(resolved(0) - 1) * columns + 1;
         first = direction > 0 ? top + seen : top - 1;
     }
     std::vector<std::int32_t> frames;

@@ -37,18 +37,25 @@ ZELSequenceGridViewModelController::ZELSequenceGridViewModelController(GridHost*
 
 ZELSequenceGridViewModelController::~ZELSequenceGridViewModelController() { prepareToRelease(); }
 
+// Shapes may outlive the grid that drew them last.
+void ZELSequenceGridViewModelController::forgetShapes()
+{
+    if (!_currZELSequence)
+        return;
+    const auto forget = [this](const CKShapePtr& shape) {
+        if (shape && shape->_gridController == this)
+            shape->_gridController = nullptr;
+    };
+    for (std::int32_t frame = 1; frame <= _currZELSequence->totalFrames(); ++frame) {
+        std::ranges::for_each(_currZELSequence->measurementsForFrame(frame), forget);
+        forget(_currZELSequence->cropForFrame(frame));
+    }
+}
+
 void ZELSequenceGridViewModelController::prepareToRelease()
 {
-    // Shapes may outlive the grid that drew them last.
-    if (_currZELSequence) {
-        for (std::int32_t frame = 1; frame <= _currZELSequence->totalFrames(); ++frame) {
-            for (const CKShapePtr& shape : _currZELSequence->measurementsForFrame(frame)) {
-                if (shape->_gridController == this)
-                    shape->_gridController = nullptr;
-            }
-        }
-    }
-    _frameWatch = {};
+    forgetShapes();
+    _proxyWatches.clear();
     _pictures.setSequence(nullptr);
     gridView = nullptr;
     _host = nullptr;
@@ -79,20 +86,51 @@ void ZELSequenceGridViewModelController::setCurrZELSequence(std::shared_ptr<ZELS
     if (proxy == _currZELSequence)
         return;
     Announce({"currZELSequence"}, [&] {
-        _frameWatch = {};
-        _planes.clear();
+        forgetShapes();
+        _proxyWatches.clear();
         _currZELSequence = std::move(proxy);
-        _pictures.setSequence(curr_dkSequence());
         _sequenceDisplayInfo._theSequence = _currZELSequence.get();
-        _frameBefore = _currZELSequence ? _currZELSequence->currentFrame() : 0;
-        if (_currZELSequence)
-            _frameWatch = _currZELSequence->ObserveKey("currentFrame",
-                                                       [this](std::string_view, KeyPhase phase) {
-                                                           if (phase == KeyPhase::DidChange)
-                                                               currentFrameDidChange();
-                                                       });
+        sequenceDidChange();
+        watchProxy();
     });
+}
+
+// Also a proxy may come to show another sequence.
+void ZELSequenceGridViewModelController::sequenceDidChange()
+{
+    _planes.clear();
+    _pictures.setSequence(curr_dkSequence());
+    _frameBefore = resolved(0);
+    _cineFrame_LastPlayed = 0;
     _viewport.setPhotoCount(photoCountForPhotoView());
+}
+
+void ZELSequenceGridViewModelController::watchProxy()
+{
+    if (!_currZELSequence)
+        return;
+    const auto watch = [this](std::string_view key, auto didChange) {
+        _proxyWatches.push_back(_currZELSequence->ObserveKey(
+            key, [didChange](std::string_view, KeyPhase phase) { didChange(phase); }));
+    };
+    watch("currentFrame", [this](KeyPhase phase) {
+        if (phase == KeyPhase::DidChange)
+            currentFrameDidChange();
+    });
+    watch("theSequence", [this](KeyPhase phase) {
+        if (phase == KeyPhase::DidChange) {
+            sequenceDidChange();
+        } else {
+            forgetShapes();
+            _pictures.setSequence(nullptr);
+        }
+    });
+    watch("viewGridSetupID", [this](KeyPhase phase) {
+        if (phase == KeyPhase::DidChange && curr_dkSequence()) {
+            const dk_SequenceViewState& state = *curr_dkSequence()->GetViewState();
+            setGridRowsTo(state.fCurrRows, state.fCurrColumns, false);
+        }
+    });
 }
 
 // ---- shape ----
@@ -109,7 +147,7 @@ void ZELSequenceGridViewModelController::setGridRowsTo(int rows, int columns, bo
     const bool same = rows == _viewport.gridRows() && columns == _viewport.gridCols();
     if (same && !force)
         return;
-    const auto change = [&] {
+    const auto reshape = [&] {
         const std::int32_t frame = _currZELSequence ? _currZELSequence->currentFrame() : 0;
         if (dk_SequenceBase* sequence = curr_dkSequence())
             sequence->GetViewState()->SetCurrGridDims(rows, columns);
@@ -125,6 +163,12 @@ void ZELSequenceGridViewModelController::setGridRowsTo(int rows, int columns, bo
         }
         if (!_printingGrid)
             revealCurrentCell();
+    };
+    const auto change = [&] {
+        if (_currZELSequence)
+            _currZELSequence->Announce({"viewGridSetupID"}, reshape);
+        else
+            reshape();
     };
     if (same)
         change();
@@ -194,20 +238,18 @@ void ZELSequenceGridViewModelController::adjustSetupForFrame(std::int32_t frame)
     const std::int32_t number = resolved(frame);
     dk_ImageFrameInfo* info = sequence ? sequence->GetImageFrameInfo(number) : nullptr;
     zel_GridFrameInfoItem* cell = info ? sequence->GetCellInfo(number) : nullptr;
-    Point size;
-    if (!cell || info->GetFrameSizeWithAspectRatio(&size))
+    LongRect turned;
+    if (!cell || info->GetImageVisibleRect(&turned) || EmptyRect(turned))
         return;
     const CellGeometry geometry = geometryForFrame(number);
     if (info->fTransform.autoFit)
         info->fTransform.zoom = Fixed(geometry.zoom());
-    const std::int32_t zoom = info->fTransform.zoom;
-    cell->width = static_cast<std::int32_t>(size.h * geometry.zoom());
-    cell->height = static_cast<std::int32_t>(size.v * geometry.zoom());
-    cell->vertScale = cell->horzScale = zoom;
-    if (const std::int64_t ratio = info->GetPixelAspectRatio(); ratio > 0 && ratio < kZoomOne)
-        cell->vertScale = Fixed(double(zoom) / double(ratio));
-    else if (ratio > kZoomOne)
-        cell->horzScale = Fixed(double(zoom) / kZoomOne * double(ratio) / kZoomOne);
+    cell->width = turned.right;
+    cell->height = turned.bottom;
+    // The zoom and the pixels' aspect, so that the record's display size is what is drawn.
+    const double zoom = info->fTransform.zoom / double{kZoomOne};
+    cell->horzScale = Fixed(zoom * geometry.imageSize().width() / turned.right);
+    cell->vertScale = Fixed(zoom * geometry.imageSize().height() / turned.bottom);
     const QPointF most = getTransformedScrollMaxForCell(number - 1);
     cell->scrollPoint = {std::clamp(cell->scrollPoint.x, 0.0F, static_cast<float>(most.x())),
                          std::clamp(cell->scrollPoint.y, 0.0F, static_cast<float>(most.y()))};
@@ -263,8 +305,8 @@ QvxStatus ZELSequenceGridViewModelController::iteratePixelInRect(const QRectF& r
 const std::optional<FramePlane>& ZELSequenceGridViewModelController::planeOfFrame(
     std::int32_t frame)
 {
-    const auto [place, isNew] = _planes.try_emplace(frame);
-    if (isNew)
-        place->second = FramePlaneOf(dynamic_cast<dk_Sequence*>(curr_dkSequence()), frame);
-    return place->second;
+    std::optional<FramePlane>& plane = _planes[frame];
+    if (!plane)
+        plane = FramePlaneOf(dynamic_cast<dk_Sequence*>(curr_dkSequence()), frame);
+    return plane;
 }

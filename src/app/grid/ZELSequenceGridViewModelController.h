@@ -116,11 +116,12 @@ public:
     [[nodiscard]] QPointF viewPointToFramePoint(const QPointF& point, std::int32_t frame) const;
     [[nodiscard]] QPointF framePointToViewPoint(const QPointF& point, std::int32_t frame) const;
     [[nodiscard]] QRectF viewRectToFrameRect(const QRectF& rect, std::int32_t frame) const;
-    // The same for locations in the rectangle of the image, unscrolled: its top left corner is 0.
     // A location in a rectangle of that size, as it lies before the record's flips and turn.
     [[nodiscard]] static QPointF reverseLocation(const QPointF& location,
                                                  const zel_TransformRec& record,
                                                  const QSizeF& size);
+    // Frame points for locations in the rectangle of the image as it lies without a pan, whose top
+    // left corner is 0.
     [[nodiscard]] QPointF viewPsaxnoLocToImageLoc(const QPointF& location,
                                                   std::int32_t frame) const;
     [[nodiscard]] QPointF U_RotateFlipScaleImagePoint(const QPointF& point,
@@ -186,6 +187,9 @@ public:
 private:
     using StackMove = void (CKFrameShapesMgr::*)(const CKAdornedGraphic*);
 
+    void forgetShapes();
+    void watchProxy();
+    void sequenceDidChange();
     [[nodiscard]] CKFrameShapesMgr* shapesOf(std::int32_t frame) const;
     void endGestures();
     void restack(const CKShapePtr& shape, std::int32_t frame, StackMove move,
@@ -199,7 +203,7 @@ private:
     GridHost* _host;                  // not owned
     const bool _printingGrid;
     std::shared_ptr<ZELSequenceProxy> _currZELSequence;
-    ObservableKeys::Watch _frameWatch;
+    std::vector<ObservableKeys::Watch> _proxyWatches;
     ZELSequenceDisplayInfo _sequenceDisplayInfo;
     GridViewport _viewport;
     CellPictures _pictures;

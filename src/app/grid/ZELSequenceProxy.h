@@ -181,7 +181,7 @@ public:
     // A global shape goes from every frame. `dispose` as of CKFrameShapesMgr.
     void removeCurrentMeasurementAndDelete(bool dispose);
     void removeMeasurement(const CKShapePtr& shape, std::int32_t frame, bool dispose);
-    void removeAllMeasurementsForFrame(std::int32_t frame);
+    void removeAllMeasurementsForFrame(std::int32_t selector);
     void removeAllCurrentFrameMeasurements() { removeAllMeasurementsForFrame(currentFrame()); }
     void removeAllMeasurements();
     // Millimetres a pixel by the user's calibration, 0 takes it back; of all frames.
@@ -197,7 +197,7 @@ public:
     [[nodiscard]] QRectF cropRectForFrame(std::int32_t frame) const;  // frame pixels
     // As the last of the three operations below left it, whatever single frames hold.
     [[nodiscard]] bool hasCrops() const { return isGood() && bufHasCrops == 1; }
-    void setCropForFrame(const CKShapePtr& crop, std::int32_t frame);
+    void setCropForFrame(const CKShapePtr& crop, std::int32_t selector);
     void setSequenceCrop(const CKShapePtr& crop);  // the same one on every frame
     void clearCrops();
 
@@ -209,6 +209,7 @@ private:
     [[nodiscard]] dk_ImageFrameInfo* frameInfo(std::int32_t frame) const;
     [[nodiscard]] const zel_TransformRec* recordOf(std::int32_t frame) const;
     [[nodiscard]] dk_SequenceFrameInfo* table() const;
+    [[nodiscard]] std::int32_t numberOf(std::int32_t frame) const;  // 0 becomes the current one
     [[nodiscard]] bool touchesCurrentFrame(std::int32_t selector) const;
     [[nodiscard]] std::int32_t pairValue(std::int32_t frame, Member window,
                                          std::int32_t otherwise) const;

@@ -50,9 +50,14 @@ std::vector<CKShapePtr> ZELSequenceProxy::currentFrameMeasurements() const
     return measurementsForFrame(currentFrame());
 }
 
+std::int32_t ZELSequenceProxy::numberOf(std::int32_t frame) const
+{
+    return frame == kCurrentFrame ? currentFrame() : frame;
+}
+
 std::vector<CKShapePtr> ZELSequenceProxy::measurementsForFrame(std::int32_t frame) const
 {
-    return _frameViewStates.measurementsOfFrame(frame);
+    return _frameViewStates.measurementsOfFrame(numberOf(frame));
 }
 
 std::int32_t ZELSequenceProxy::totalMeasurementsInFrame(std::int32_t frame) const
@@ -144,8 +149,13 @@ void ZELSequenceProxy::removeMeasurement(const CKShapePtr& shape, std::int32_t f
     });
 }
 
-void ZELSequenceProxy::removeAllMeasurementsForFrame(std::int32_t frame)
+void ZELSequenceProxy::removeAllMeasurementsForFrame(std::int32_t selector)
 {
+    if (selector == kAllFrames) {
+        removeAllMeasurements();
+        return;
+    }
+    const std::int32_t frame = numberOf(selector);
     if (!viewStateForFrame(frame))
         return;
     announceIf(frame == currentFrame(), kRemoved, [&] {
@@ -192,7 +202,7 @@ void ZELSequenceProxy::changeScaleForAllFrames(float scale)
 
 CKShapePtr ZELSequenceProxy::cropForFrame(std::int32_t frame) const
 {
-    const ZELFrameViewState* state = viewStateForFrame(frame);
+    const ZELFrameViewState* state = viewStateForFrame(numberOf(frame));
     return state ? state->frameCrop() : nullptr;
 }
 
@@ -202,9 +212,13 @@ QRectF ZELSequenceProxy::cropRectForFrame(std::int32_t frame) const
     return crop ? crop->geometricBounds() : QRectF();
 }
 
-void ZELSequenceProxy::setCropForFrame(const CKShapePtr& crop, std::int32_t frame)
+void ZELSequenceProxy::setCropForFrame(const CKShapePtr& crop, std::int32_t selector)
 {
-    ZELFrameViewState* state = viewStateForFrame(frame);
+    if (selector == kAllFrames) {
+        setSequenceCrop(crop);
+        return;
+    }
+    ZELFrameViewState* state = viewStateForFrame(numberOf(selector));
     if (!state)
         return;
     state->setFrameCrop(crop);

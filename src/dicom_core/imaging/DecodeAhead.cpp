@@ -9,7 +9,6 @@
 #include "qpix/zelImageSource.h"
 #include <algorithm>
 #include <exception>
-#include <new>
 #include <tuple>
 
 namespace {
@@ -80,6 +79,7 @@ void DecodeAhead::Collect(dk_SequenceBase* sequence, std::int32_t frame)
     {
         const auto key = KeyOf(sequence, frame);
         std::unique_lock lock(fMutex);
+        std::erase_if(fJobs, [&](const Job& job) { return job.key == key; });  // too late for it
         fDone.wait(lock, [&] { return !key || fInWork != key; });
         frames.swap(fFrames);
     }
@@ -132,9 +132,9 @@ DecodeAhead::Frame DecodeAhead::Decode(Opened* opened, Job job)
         opened->source = std::move(job.source);
         opened->secondary = job.key.secondary;
     }
-    CImporterPlus* importer = opened->source->GetImporter();
     std::uint32_t properties = 0;
     try {
+        CImporterPlus* importer = opened->source->GetImporter();
         if (!importer || importer->SetCurrentImage(job.key.primary) ||
             U_NewOffscreenForFrame(*importer, job.key.primary, &frame.offscreen, nullptr,
                                    &properties) ||
@@ -151,7 +151,7 @@ DecodeAhead::Frame DecodeAhead::Decode(Opened* opened, Job job)
                 return failed;
             frame.facts = facts;
         }
-    } catch (const std::bad_alloc&) {
+    } catch (const std::exception&) {  // of memory, or of a library
         return failed;
     }
     return frame;

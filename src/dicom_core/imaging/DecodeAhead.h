@@ -29,8 +29,9 @@ public:
     // and isn't begun. Those out of range or in the buffer are left out; nothing without a buffer.
     // The thread is started when it is first needed.
     void Request(dk_SequenceBase* sequence, std::span<const std::int32_t> frames);
-    // Puts finished frames into the base buffer. If `frame` of the sequence is in work it is waited
-    // for, as that ends sooner than decoding it again. A frame that failed is dropped: whoever
+    // Puts finished frames into the base buffer, before `frame` is decoded by whoever asks. If that
+    // one is in work it is waited for, as that ends sooner than decoding it again; if it is only
+    // wanted it is no more. A frame that failed is dropped: whoever
     // shows it meets the fault itself.
     void Collect(dk_SequenceBase* sequence, std::int32_t frame);
     void Forget();  // drops what is wanted, in work and finished

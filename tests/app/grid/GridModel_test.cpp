@@ -275,7 +275,7 @@ TEST(GridModel, keeps_cell_records_in_step_with_the_view)
         {"fitted to the narrower side", nullptr, {32, 48}, 0, kOne / 2, kOne / 2, kOne / 2, 32, 24},
         {"never fitted larger than itself", nullptr, {640, 480}, 0, kOne, kOne, kOne, 64, 48},
         {"a zoom of its own", nullptr, {32, 48}, 3, 3 * kOne, 3 * kOne, 3 * kOne, 192, 144},
-        {"high pixels", "2\\1", {64, 48}, 0, kOne / 2, kOne / 2, kOne, 32, 48},
+        {"high pixels", "2\\1", {64, 48}, 0, kOne / 2, kOne, kOne / 2, 32, 48},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.fault);
@@ -290,11 +290,38 @@ TEST(GridModel, keeps_cell_records_in_step_with_the_view)
         EXPECT_EQ(made.sequences[0]->GetImageFrameInfo(1)->fTransform.zoom, row.zoomAfter);
         EXPECT_EQ(cell.vertScale, row.vertical);
         EXPECT_EQ(cell.horzScale, row.horizontal);
-        EXPECT_EQ(cell.width, row.width);
-        EXPECT_EQ(cell.height, row.height);
+        const LongPoint displayed = cell.GetCellDisplaySize();
+        EXPECT_EQ(displayed.h, row.width);
+        EXPECT_EQ(displayed.v, row.height);
         EXPECT_EQ(cell.scrollPoint.x, 0);
         EXPECT_LE(cell.scrollPoint.y, window.a.getTransformedScrollMaxForCell(0).y());
     }
+}
+
+TEST(GridModel, follows_its_proxy_to_another_sequence_and_shape)
+{
+    const Quiet quiet;
+    MadeTree made({SeriesForm{.frames = 2}, SeriesForm{.frames = 5}});
+    Window window(&made);
+    ZELSequenceProxy& proxy = *window.a.currZELSequence();
+    EXPECT_FALSE(window.a.photoAtIndex(1).isNull());
+    const CKShapePtr crop = std::make_shared<Box>(QRectF(1, 1, 9, 9), Box::Kind::Crop);
+    proxy.setCropForFrame(crop, 0);
+    crop->_gridController = &window.a;
+
+    proxy.setTheSequence(made.sequences[1]);
+    EXPECT_EQ(crop->_gridController, nullptr) << "drawn by nobody any more";
+    EXPECT_EQ(window.a.photoCountForPhotoView(), 5);
+    EXPECT_FALSE(window.a.photoAtIndex(4).isNull());
+
+    std::vector<std::string> heard;
+    const auto watch = window.a.ObserveKey({}, [&](std::string_view key, KeyPhase phase) {
+        if (phase == KeyPhase::DidChange)
+            heard.emplace_back(key);
+    });
+    proxy.setViewGridSetupID(3);
+    EXPECT_EQ(window.a.gridSetupID(), 3);
+    EXPECT_EQ(heard, (std::vector<std::string>{"inSingleFrameMode", "gridSetupID"}));
 }
 
 TEST(GridModel, a_picture_is_made_once_for_a_look)
