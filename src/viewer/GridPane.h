@@ -42,7 +42,15 @@ public:
     void activateGrid(ZELSequenceGridViewModelController& grid) override;
     void changeSequenceTo(std::shared_ptr<ZELSequenceProxy> proxy,
                           ZELSequenceGridViewModelController& grid) override;
+    void U_ActivateSequence(std::shared_ptr<ZELSequenceProxy> proxy,
+                            ZELSequenceGridViewModelController& grid) override
+    {
+        changeSequenceTo(std::move(proxy), grid);
+    }
     [[nodiscard]] bool showLocalizers() const override { return false; }
+    [[nodiscard]] int protocolItemTag() const override { return 651; }
+    void switchToSequenceViewWithID(int /*layout*/, bool /*keepOld*/) override {}
+    void openGridSetupDialog(ZELSequenceGridViewModelController& /*grid*/) override {}
     [[nodiscard]] bool zelWindowIsReady() const override { return true; }
     [[nodiscard]] bool windowIsClosing() const override { return false; }
     [[nodiscard]] const void* windowKey() const override { return this; }
@@ -66,7 +74,13 @@ private:
     [[nodiscard]] bool isDrawingCrop() const override { return false; }
     void U_FreezeTheCrop(ZELSequenceGridViewModelController& /*grid*/) override {}
     void U_ActivateTheCrop(ZELSequenceGridViewModelController& /*grid*/) override {}
-    void startCine(ZELSequenceGridViewModelController& /*grid*/) override {}
+    [[nodiscard]] bool isAvailable() const override { return false; }
+    void startCine(ZELSequenceGridViewModelController& /*grid*/,
+                   std::int32_t /*fromFrame*/) override
+    {
+    }
+    void playAllCines() override {}
+    void stopAllCines() override {}
     void stopCine(ZELSequenceGridViewModelController& /*grid*/) override {}
     void zoomDidChange(const Notification& note);
 

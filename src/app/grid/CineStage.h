@@ -2,6 +2,7 @@
 #pragma once
 #include "util/StatusCodes.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -24,6 +25,10 @@ void SetCineMovieMaker(CineMovieMaker maker);
 class CineStage {
 public:
     virtual ~CineStage() = default;
-    virtual void startCine(ZELSequenceGridViewModelController& grid) = 0;
+    [[nodiscard]] virtual bool isAvailable() const = 0;  // there is something that plays
+    // From that frame; 0 is the current one.
+    virtual void startCine(ZELSequenceGridViewModelController& grid, std::int32_t fromFrame) = 0;
     virtual void stopCine(ZELSequenceGridViewModelController& grid) = 0;
+    virtual void playAllCines() = 0;  // in each grid that doesn't play
+    virtual void stopAllCines() = 0;
 };

@@ -27,10 +27,17 @@ public:
     virtual void activateGrid(ZELSequenceGridViewModelController& grid) = 0;  // and its keys
     virtual void changeSequenceTo(std::shared_ptr<ZELSequenceProxy> proxy,
                                   ZELSequenceGridViewModelController& grid) = 0;
+    // The same for a choice of the user's: one that stands in a grid already changes places.
+    virtual void U_ActivateSequence(std::shared_ptr<ZELSequenceProxy> proxy,
+                                    ZELSequenceGridViewModelController& grid) = 0;
     [[nodiscard]] virtual bool showLocalizers() const = 0;
+    [[nodiscard]] virtual int protocolItemTag() const = 0;  // the layout, of GridLayouts.h
+    // `keepOld`: sequences keep their grids where the new layout has such.
+    virtual void switchToSequenceViewWithID(int layout, bool keepOld) = 0;
 
     // ---- the window ----
 
+    virtual void openGridSetupDialog(ZELSequenceGridViewModelController& grid) = 0;
     [[nodiscard]] virtual bool zelWindowIsReady() const = 0;
     [[nodiscard]] virtual bool windowIsClosing() const = 0;
     [[nodiscard]] virtual const void* windowKey() const = 0;  // as notifications name it

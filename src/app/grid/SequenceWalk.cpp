@@ -75,7 +75,7 @@ void ViewerActions::U_DoJumpView(Grid& grid, const std::shared_ptr<ZELSequencePr
     fHost->changeSequenceTo(proxy, grid);
     if (prefs_HasCineAutoplay() && Modality_HasCineAutoplay(proxy->theSequence()->GetModality()) &&
         !grid.cineModeIsON())
-        fHost->cineStage().startCine(grid);
+        fHost->cineStage().startCine(grid, 0);
     if (!grid.cineModeIsON()) {
         grid.revealCurrentCell();
         if (grid.view())

@@ -47,7 +47,19 @@ public:
         log.push_back("change sequence");
         grid.setCurrZELSequence(std::move(proxy));
     }
+    void U_ActivateSequence(std::shared_ptr<ZELSequenceProxy> proxy, Grid& grid) override
+    {
+        log.push_back("activate sequence");
+        grid.setCurrZELSequence(std::move(proxy));
+    }
     bool showLocalizers() const override { return localizers; }
+    int protocolItemTag() const override { return layout; }
+    void switchToSequenceViewWithID(int id, bool keepOld) override
+    {
+        log.push_back("layout " + std::to_string(id) + (keepOld ? " keeping" : ""));
+        layout = id;
+    }
+    void openGridSetupDialog(Grid&) override { log.push_back("grid dialog"); }
     bool zelWindowIsReady() const override { return ready; }
     bool windowIsClosing() const override { return closing; }
     const void* windowKey() const override { return this; }
@@ -76,9 +88,12 @@ public:
     void U_FreezeTheCrop(Grid&) override { log.push_back("freeze crop"); }
     void U_ActivateTheCrop(Grid&) override { log.push_back("activate crop"); }
 
-    void startCine(Grid& grid) override
+    bool isAvailable() const override { return hasCine; }
+    void playAllCines() override { log.push_back("play all"); }
+    void stopAllCines() override { log.push_back("stop all"); }
+    void startCine(Grid& grid, std::int32_t fromFrame) override
     {
-        log.push_back("start cine");
+        log.push_back(fromFrame > 0 ? "start cine at " + std::to_string(fromFrame) : "start cine");
         grid.setCineModeIsON(true);
     }
     void stopCine(Grid& grid) override
@@ -96,7 +111,8 @@ public:
     ToolScope scope;
     std::int32_t tool = 0;
     bool ready = true, closing = false, singleCine = false, drawingCrop = false;
-    bool localizers = false;
+    bool localizers = false, hasCine = true;
+    int layout = 651;
 
 private:
     ZELDcmTree* fTree;
