@@ -9,6 +9,7 @@ inline constexpr std::string_view kNoteFrameDidChange = "ZELNotification_Current
 inline constexpr std::string_view kNoteFrameDidChangeCine =
     "ZELNotification_CurrentFrame_DidChangeCine";
 inline constexpr std::string_view kNoteZoomDidChange = "ZELNotification_CellZoom_DidChange";
+inline constexpr std::string_view kNoteGridDidChange = "ZELNotification_ActiveGrid_DidChange";
 inline constexpr std::string_view kNoteGridDidChangeSequence =
     "ZELNotification_ActiveGrid_DidChangeSequence";
 inline constexpr std::string_view kNoteMeasurementChange = "ZELMeasurementChange";
@@ -24,6 +25,7 @@ inline constexpr const char* kKeyMeasurementAction = "ZELMeasurementAction";
 inline constexpr const char* kKeyPreviousPosition = "ZELMeasurementPreviousPosition";
 inline constexpr const char* kKeyNewDkSequence = "New_dkSequence";
 inline constexpr const char* kKeyNewSequence = "NewSequence";
+inline constexpr const char* kKeyNewGridController = "NewGridController";
 inline constexpr const char* kKeyWindow = "TheWindowKey";
 inline constexpr const char* kKeyWWidth = "WWidth";
 inline constexpr const char* kKeyWLevel = "WLevel";
