@@ -4,7 +4,7 @@
 #include "dicom_core/opening/RecentDocuments.h"
 #include "platform/Words.h"
 #include "viewer/DocumentIcon.h"
-#include "viewer/GridPane.h"
+#include "viewer/GridsPane.h"
 #include "viewer/ViewerCommands.h"
 #include "viewer/ViewerWords.h"
 
@@ -55,13 +55,13 @@ namespace {
 // A menu whose entries find the pane, and say what they are when it shows.
 class PaneMenu {
 public:
-    PaneMenu(QMenu* menu, GridPane* pane) : fMenu(menu), fPane(pane) {}
+    PaneMenu(QMenu* menu, GridsPane* pane) : fMenu(menu), fPane(pane) {}
 
     [[nodiscard]] QMenu* menu() const { return fMenu; }
     template <typename Work>
     QAction* Add(const char* title, const QKeySequence& shortcut, Work work)
     {
-        GridPane* pane = fPane;
+        GridsPane* pane = fPane;
         return fMenu->addAction(ViewerWord(title), shortcut, fMenu, [pane, work] {
             if (pane->proxy())
                 work(*pane);
@@ -73,7 +73,7 @@ public:
     {
         QAction* action = Add(title, shortcut, work);
         action->setCheckable(true);
-        GridPane* pane = fPane;
+        GridsPane* pane = fPane;
         QObject::connect(fMenu, &QMenu::aboutToShow, action, [action, pane, isOn] {
             action->setChecked(pane->proxy() && isOn(*pane));
         });
@@ -81,56 +81,56 @@ public:
 
 private:
     QMenu* fMenu;
-    GridPane* fPane;
+    GridsPane* fPane;
 };
 
 void AddLooks(PaneMenu menu)
 {
     menu.Add("Zoom &In", QKeySequence::ZoomIn,
-             [](GridPane& p) { p.actions().nextZoomValue(p.grid()); });
+             [](GridsPane& p) { p.actions().nextZoomValue(p.grid()); });
     menu.Add("Zoom &Out", QKeySequence::ZoomOut,
-             [](GridPane& p) { p.actions().prevZoomValue(p.grid()); });
+             [](GridsPane& p) { p.actions().prevZoomValue(p.grid()); });
     menu.Add("&Actual Size", Qt::CTRL | Qt::Key_1,
-             [](GridPane& p) { p.actions().normalZoomValue(p.grid()); });
+             [](GridsPane& p) { p.actions().normalZoomValue(p.grid()); });
     menu.Add("&Fit in Window", Qt::CTRL | Qt::Key_0,
-             [](GridPane& p) { p.actions().autoFitView(p.grid(), 0); });
+             [](GridsPane& p) { p.actions().autoFitView(p.grid(), 0); });
     menu.menu()->addSeparator();
     menu.Add("&Invert", Qt::CTRL | Qt::Key_I,
-             [](GridPane& p) { p.actions().invertColorsForView(p.grid(), 0); });
+             [](GridsPane& p) { p.actions().invertColorsForView(p.grid(), 0); });
     menu.Add("Rotate &Left", Qt::CTRL | Qt::Key_L,
-             [](GridPane& p) { p.actions().rotateView(p.grid(), 0, true); });
+             [](GridsPane& p) { p.actions().rotateView(p.grid(), 0, true); });
     menu.Add("Rotate &Right", Qt::CTRL | Qt::Key_R,
-             [](GridPane& p) { p.actions().rotateView(p.grid(), 0, false); });
+             [](GridsPane& p) { p.actions().rotateView(p.grid(), 0, false); });
     menu.Add("Flip &Horizontal", Qt::CTRL | Qt::SHIFT | Qt::Key_H,
-             [](GridPane& p) { p.actions().flipView(p.grid(), 0, false); });
+             [](GridsPane& p) { p.actions().flipView(p.grid(), 0, false); });
     menu.Add("Flip &Vertical", Qt::CTRL | Qt::SHIFT | Qt::Key_V,
-             [](GridPane& p) { p.actions().flipView(p.grid(), 0, true); });
+             [](GridsPane& p) { p.actions().flipView(p.grid(), 0, true); });
     menu.menu()->addSeparator();
     menu.Add("Original &Window", Qt::CTRL | Qt::SHIFT | Qt::Key_O,
-             [](GridPane& p) { p.actions().originalWWWLorBnC(); });
+             [](GridsPane& p) { p.actions().originalWWWLorBnC(); });
     menu.Add("Reset &All", Qt::CTRL | Qt::SHIFT | Qt::Key_R,
-             [](GridPane& p) { p.actions().resetAllChanges(); });
+             [](GridsPane& p) { p.actions().resetAllChanges(); });
 }
 
 void AddShown(PaneMenu menu)
 {
     menu.AddMarked(
         "&Text", Qt::CTRL | Qt::Key_T,
-        [](GridPane& p) { return p.proxy()->viewShowsDemographics(); },
-        [](GridPane& p) {
+        [](GridsPane& p) { return p.proxy()->viewShowsDemographics(); },
+        [](GridsPane& p) {
             p.proxy()->setViewShowsDemographics(p.proxy()->viewShowsDemographics() ? 0 : 1);
             p.view()->setNeedsDisplay();
         });
     menu.AddMarked(
-        "R&uler", Qt::CTRL | Qt::Key_U, [](GridPane& p) { return p.proxy()->viewShowsScale(); },
-        [](GridPane& p) {
+        "R&uler", Qt::CTRL | Qt::Key_U, [](GridsPane& p) { return p.proxy()->viewShowsScale(); },
+        [](GridsPane& p) {
             p.proxy()->setViewShowsScale(!p.proxy()->viewShowsScale());
             p.view()->setNeedsDisplay();
         });
     menu.AddMarked(
         "O&verlays", Qt::CTRL | Qt::Key_Y,
-        [](GridPane& p) { return p.proxy()->viewShowsDicomOverlays(); },
-        [](GridPane& p) {
+        [](GridsPane& p) { return p.proxy()->viewShowsDicomOverlays(); },
+        [](GridsPane& p) {
             p.proxy()->setViewShowsDicomOverlays(!p.proxy()->viewShowsDicomOverlays());
             p.view()->setNeedsDisplay();
         });
@@ -143,14 +143,14 @@ void AddGrids(PaneMenu menu)
         const std::string title =
             std::to_string(shape.rows) + " × " + std::to_string(shape.columns);
         menu.AddMarked(
-            title.c_str(), {}, [setup](GridPane& p) { return p.grid().gridSetupID() == setup; },
-            [setup](GridPane& p) { p.grid().setGridSetupID(setup); });
+            title.c_str(), {}, [setup](GridsPane& p) { return p.grid().gridSetupID() == setup; },
+            [setup](GridsPane& p) { p.grid().setGridSetupID(setup); });
     }
 }
 
 }  // namespace
 
-void AddViewMenus(QMainWindow* window, GridPane* pane)
+void AddViewMenus(QMainWindow* window, GridsPane* pane)
 {
     QMenu* view = window->menuBar()->addMenu(ViewerWord("&View"));
     AddLooks({view, pane});
@@ -160,9 +160,9 @@ void AddViewMenus(QMainWindow* window, GridPane* pane)
     view->addSeparator();
     PaneMenu sequences(view, pane);
     sequences.Add("&Previous Sequence", Qt::CTRL | Qt::Key_Left,
-                  [](GridPane& p) { p.actions().gotoPreviousSequence(p.grid()); });
+                  [](GridsPane& p) { p.actions().gotoPreviousSequence(p.grid()); });
     sequences.Add("&Next Sequence", Qt::CTRL | Qt::Key_Right,
-                  [](GridPane& p) { p.actions().gotoNextSequence(p.grid()); });
+                  [](GridsPane& p) { p.actions().gotoNextSequence(p.grid()); });
 
     PaneMenu tools(window->menuBar()->addMenu(ViewerWord("&Tools")), pane);
     struct Row {
@@ -174,13 +174,13 @@ void AddViewMenus(QMainWindow* window, GridPane* pane)
                            Row{"&Pan", kToolPan, Qt::Key_P}, Row{"&Zoom", kToolZoom, Qt::Key_Z}})
         tools.AddMarked(
             row.title, row.shortcut,
-            [tool = row.tool](GridPane& p) { return p.tools().currentTool() == tool; },
-            [tool = row.tool](GridPane& p) { p.tools().changeToolTo(tool); });
+            [tool = row.tool](GridsPane& p) { return p.tools().currentTool() == tool; },
+            [tool = row.tool](GridsPane& p) { p.tools().changeToolTo(tool); });
     tools.menu()->addSeparator();
     tools.AddMarked(
         "Apply to Whole &Sequence", Qt::Key_S,
-        [](GridPane& p) { return p.toolScope().isSequence(); },
-        [](GridPane& p) {
+        [](GridsPane& p) { return p.toolScope().isSequence(); },
+        [](GridsPane& p) {
             p.toolScope().setToolScope(p.toolScope().isSequence() ? ToolScope::kFrame
                                                                   : ToolScope::kSequence);
         });

@@ -1,11 +1,11 @@
 // The menu bar of a window.
 #pragma once
 
-class GridPane;
+class GridsPane;
 class QMainWindow;
 class ViewerCommands;
 
 // Adds the menu "File". `commands` outlives the window.
 void AddFileMenu(QMainWindow* window, ViewerCommands* commands);
 // Adds "View" and "Tools", which act on the pane's grid; it outlives the window's menus.
-void AddViewMenus(QMainWindow* window, GridPane* pane);
+void AddViewMenus(QMainWindow* window, GridsPane* pane);

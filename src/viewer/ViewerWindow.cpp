@@ -34,7 +34,7 @@ ViewerWindow::ViewerWindow(ViewerCommands* commands, std::unique_ptr<ZELDcmTree>
     : _commands(commands),
       _document(document),
       _tree(std::move(tree)),
-      _pane(_tree.get()),
+      _pane(new GridsPane(_tree.get(), this)),
       _sequences(RowsOfTree(*_tree)),
       _list(new QTreeView(this)),
       _file(addStatusLabel(true)),
@@ -44,20 +44,20 @@ ViewerWindow::ViewerWindow(ViewerCommands* commands, std::unique_ptr<ZELDcmTree>
     setWindowTitle(WindowTitleText(DisplayName(represented)));
     setAcceptDrops(true);
     AddFileMenu(this, commands);
-    AddViewMenus(this, &_pane);
+    AddViewMenus(this, _pane);
     layOut();
-    _pane.view()->setFocus();
-    _pane.sequenceChanged = [this](dk_SequenceBase* sequence) {
+    _pane->view()->becomeFirstResponder();
+    _pane->targetChanged = [this](dk_SequenceBase* sequence) {
         const QSignalBlocker blocker(_list->selectionModel());
         _list->setCurrentIndex(_sequences.indexOf(sequence));
         _list->viewport()->update();
+        updateStatus();
     };
     // Queued: labels are not changed while cells are being painted.
-    connect(_pane.view(), &MUPhotoView::cellsPainted, this, &ViewerWindow::onPainted,
-            Qt::QueuedConnection);
+    connect(_pane, &GridsPane::cellsPainted, this, &ViewerWindow::onPainted, Qt::QueuedConnection);
     connect(_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ViewerWindow::showSequenceAt);
-    _list->setCurrentIndex(_sequences.firstSequence());
+    _pane->targetChanged(_pane->proxy() ? _pane->proxy()->theSequence() : nullptr);
     resize(kFirstSize.boundedTo(screen()->availableSize() * 0.9));
 }
 
@@ -65,7 +65,7 @@ ViewerWindow::~ViewerWindow()
 {
     // The widgets go after the members that they show.
     _list->setModel(nullptr);
-    _pane.showSequence(nullptr);
+    delete _pane;
     for (int row = 0; row < _sequences.rowCount(); ++row) {
         if (const TreeRow& shown = _sequences.treeRow(row); shown.IsSequence())
             ForgetBufferedFrames(shown.Sequence());
@@ -75,11 +75,11 @@ ViewerWindow::~ViewerWindow()
 void ViewerWindow::layOut()
 {
     _frame->setToolTip(ViewerWord("Frame shown, and how many there are"));
-    _pane.view()->setAccessibleName(ViewerWord("Picture"));
+    _pane->setAccessibleName(ViewerWord("Picture"));
     layOutList();
     auto* splitter = new QSplitter(this);
     splitter->addWidget(_list);
-    splitter->addWidget(_pane.view());
+    splitter->addWidget(_pane);
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({kListWidth, kFirstSize.width() - kListWidth});
     setCentralWidget(splitter);
@@ -153,26 +153,27 @@ void ViewerWindow::onPainted()
         _painted = true;
         setWindowIcon(DocumentIcon(_document));  // late: reading icons takes longer than painting
     }
-    if (_pane.view()->isSettled() && _whenPainted)
+    if (_pane->view()->isSettled() && _whenPainted)
         std::exchange(_whenPainted, nullptr)();
 }
 
 void ViewerWindow::showSequenceAt(const QModelIndex& row)
 {
     const TreeRow shown = row.isValid() ? _sequences.treeRow(row.row()) : TreeRow();
-    _pane.showSequence(shown.IsSequence() ? shown.Sequence() : nullptr);
+    if (shown.IsSequence())
+        _pane->showSequence(shown.Sequence());
     updateStatus();
 }
 
 void ViewerWindow::updateStatus()
 {
-    const ZELSequenceProxy* proxy = _pane.proxy();
+    const ZELSequenceProxy* proxy = _pane->proxy();
     if (!proxy || !proxy->isGood()) {
         _file->clear();
         _frame->setText(ViewerWord("There are no frames to show"));
         return setWindowText({});
     }
-    const GridPane::Caption caption = _pane.caption();
+    const GridsPane::Caption caption = _pane->caption();
     setFileText(caption);
     const QLocale locale;
     const QString frame =
@@ -180,11 +181,11 @@ void ViewerWindow::updateStatus()
             .arg(locale.toString(proxy->currentFrame()), locale.toString(proxy->totalFrames()));
     _frame->setText(frame);
     setWindowText(caption);
-    _pane.view()->setAccessibleDescription(
+    _pane->view()->setAccessibleDescription(
         QStringList{_file->accessibleName(), frame, _window->text()}.join(QStringLiteral(", ")));
 }
 
-void ViewerWindow::setWindowText(const GridPane::Caption& caption)
+void ViewerWindow::setWindowText(const GridsPane::Caption& caption)
 {
     QString text;
     if (caption.failed)
@@ -199,10 +200,10 @@ void ViewerWindow::setWindowText(const GridPane::Caption& caption)
                                                : QString());
 }
 
-void ViewerWindow::setFileText(const GridPane::Caption& caption)
+void ViewerWindow::setFileText(const GridsPane::Caption& caption)
 {
     QString name = DisplayText(std::filesystem::path(caption.path).filename().native());
-    if (caption.framesOfFile > 1 && caption.framesOfFile < _pane.proxy()->totalFrames()) {
+    if (caption.framesOfFile > 1 && caption.framesOfFile < _pane->proxy()->totalFrames()) {
         const QLocale locale;
         name =
             ViewerWord("%1 (%2 of %3)")

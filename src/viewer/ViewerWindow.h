@@ -2,7 +2,7 @@
 // that says which frame is at hand. Files and folders dropped on it are opened. Main thread only.
 #pragma once
 #include "dicom_core/opening/RecentDocuments.h"
-#include "viewer/GridPane.h"
+#include "viewer/GridsPane.h"
 #include "viewer/SequenceListModel.h"
 
 #include <QMainWindow>
@@ -40,13 +40,13 @@ private:
     void onPainted();
     void showSequenceAt(const QModelIndex& row);
     void updateStatus();
-    void setFileText(const GridPane::Caption& caption);
-    void setWindowText(const GridPane::Caption& caption);
+    void setFileText(const GridsPane::Caption& caption);
+    void setWindowText(const GridsPane::Caption& caption);
 
     ViewerCommands* _commands;
     ZELRecentDocument _document;
     std::unique_ptr<ZELDcmTree> _tree;
-    GridPane _pane;
+    GridsPane* _pane;              // a child, which goes before the tree
     SequenceListModel _sequences;  // rows of `_tree`
     QTreeView* _list;
     QLabel *_file, *_frame, *_window;

@@ -14,4 +14,8 @@ public:
     virtual bool doubleClicked(std::int32_t tool, const QPointF& point) = 0;
     virtual void drag(const QPointF& point, bool shift, bool option) = 0;
     virtual void release(const QPointF& point) = 0;
+    // The arrow keys: all that are selected, by frame pixels.
+    virtual void moveSelectedGraphicsBy(const QPointF& delta) = 0;
+    virtual void closePendingMeasurements(bool close) = 0;  // else dropped
+    virtual void stopEditing() = 0;                         // of a text note
 };

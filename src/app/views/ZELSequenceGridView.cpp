@@ -1,19 +1,28 @@
 #include "app/views/ZELSequenceGridView.h"
 
 #include "app/tools/ZELToolsController.h"
+#include "platform/NotificationCenter.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
 
+constexpr double kSequenceDrag = 10;  // points in either axis
+
+// Some window managers keep drags with Alt for themselves.
+bool HasOption(Qt::KeyboardModifiers keys)
+{
+    return keys.testFlag(Qt::AltModifier) || keys.testFlag(Qt::MetaModifier);
+}
+
 TrackerEvent TrackerEventOf(const QMouseEvent& event)
 {
     return {event.position(), event.modifiers().testFlag(Qt::ShiftModifier),
-            event.modifiers().testFlag(Qt::AltModifier)};
+            HasOption(event.modifiers())};
 }
 
 MouseButton ButtonOf(const QMouseEvent& event)
@@ -23,36 +32,13 @@ MouseButton ButtonOf(const QMouseEvent& event)
     return event.button() == Qt::RightButton ? MouseButton::Right : MouseButton::Left;
 }
 
-// Up and Down step a row of a matrix.
-std::optional<FrameStep> StepForKey(int key, bool singleFrame)
-{
-    switch (key) {
-        case Qt::Key_Left:
-            return FrameStep::Previous;
-        case Qt::Key_Right:
-            return FrameStep::Next;
-        case Qt::Key_Up:
-            return singleFrame ? FrameStep::Previous : FrameStep::PreviousRow;
-        case Qt::Key_Down:
-            return singleFrame ? FrameStep::Next : FrameStep::NextRow;
-        case Qt::Key_PageUp:
-            return FrameStep::PreviousPage;
-        case Qt::Key_PageDown:
-            return FrameStep::NextPage;
-        case Qt::Key_Home:
-            return FrameStep::First;
-        case Qt::Key_End:
-            return FrameStep::Last;
-        default:
-            return std::nullopt;
-    }
-}
-
 }  // namespace
 
 ZELSequenceGridView::ZELSequenceGridView(const Links& links, QWidget* parent)
-    : MUPhotoView(parent), _links(links), _mouse(links.grid, links.tools)
+    : MUPhotoView(parent), _links(links), _mouse(links.grid, links.tools, links.gestures)
 {
+    setFocusPolicy(Qt::TabFocus);  // a click asks first
+    viewport()->setMouseTracking(true);
     _links.grid->setGridView(this);
 }
 
@@ -143,37 +129,21 @@ void ZELSequenceGridView::zoomAbout(const QPointF& point, int steps)
     setNeedsDisplayForFrame(frame);
 }
 
-void ZELSequenceGridView::keyPressEvent(QKeyEvent* event)
-{
-    const bool command = event->modifiers().testFlag(Qt::ControlModifier);
-    const int key = event->key();
-    if (command && (key == Qt::Key_Left || key == Qt::Key_Right)) {
-        if (key == Qt::Key_Left)
-            _links.actions->gotoPreviousSequence(*_links.grid);
-        else
-            _links.actions->gotoNextSequence(*_links.grid);
-        return;
-    }
-    const bool plain = !(event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
-    const auto step = plain ? StepForKey(key, _links.grid->inSingleFrameMode()) : std::nullopt;
-    if (step)
-        _links.grid->gotoFrame(*step);
-    else if (plain && (key == Qt::Key_Delete || key == Qt::Key_Backspace))
-        _links.grid->deleteSelectedMeasurement();
-    else
-        event->ignore();
-}
-
 void ZELSequenceGridView::press(const QMouseEvent& event, bool doubleClick)
 {
     mouseDownPoint = event.position();
+    if (!isActiveWindow() && !acceptsFirstMouse())
+        return activateWindow();
+    isActivateClick = !hasFocus() && acceptsFirstResponder();
+    if (isActivateClick)
+        becomeFirstResponder();
     GridPress press;
     press.point = event.position();
     press.button = ButtonOf(event);
     press.doubleClick = doubleClick;
     press.gaveFocus = std::exchange(isActivateClick, false);
     press.shift = event.modifiers().testFlag(Qt::ShiftModifier);
-    press.option = event.modifiers().testFlag(Qt::AltModifier);
+    press.option = HasOption(event.modifiers());
     press.command = event.modifiers().testFlag(Qt::ControlModifier);
     _mouse.press(press);
     potentialDragDrop = _mouse.potentialDragDrop();
@@ -184,17 +154,105 @@ void ZELSequenceGridView::mouseDoubleClickEvent(QMouseEvent* event) { press(*eve
 
 void ZELSequenceGridView::mouseMoveEvent(QMouseEvent* event)
 {
-    _mouse.drag(TrackerEventOf(*event));
+    if (event->buttons() == Qt::NoButton)
+        return updateCursor(event->position());
+    if (!potentialDragDrop)
+        return _mouse.drag(TrackerEventOf(*event));
+    const QPointF moved = event->position() - mouseDownPoint;
+    if (std::abs(moved.x()) < kSequenceDrag && std::abs(moved.y()) < kSequenceDrag)
+        return;
+    potentialDragDrop = false;
+    dragSequence();
 }
 
 void ZELSequenceGridView::mouseReleaseEvent(QMouseEvent* event)
 {
-    static_cast<void>(_mouse.release(TrackerEventOf(*event)));
+    potentialDragDrop = false;
+    if (_mouse.release(TrackerEventOf(*event)))
+        rightClicked(event->position());
+}
+
+// ---- focus ----
+
+ZELSequenceProxy* ZELSequenceGridView::theGridSequence() const
+{
+    return _links.grid->currZELSequence().get();
+}
+
+bool ZELSequenceGridView::acceptsFirstResponder() const
+{
+    return !_links.grid->cineModeIsON() && _links.grid->photoCountForPhotoView() > 0;
+}
+
+bool ZELSequenceGridView::acceptsFirstMouse() const
+{
+    return !theGridSequence() || !theGridSequence()->currentMeasurement();
+}
+
+void ZELSequenceGridView::becomeFirstResponder()
+{
+    if (!acceptsFirstResponder())
+        return;
+    if (!hasFocus())
+        setFocus(Qt::MouseFocusReason);
+    if (!hasFocus())  // its window is not the active one
+        tellOfFocus();
+}
+
+void ZELSequenceGridView::tellOfFocus()
+{
+    if (!_links.grid->windowIsReady())
+        return;
+    const auto pointer = [](const void* p) { return QVariant::fromValue(const_cast<void*>(p)); };
+    NotificationCenter::Default().Post(
+        kNoteGridDidChange, static_cast<GridSurface*>(this),
+        {{QLatin1String(kKeyNewGridController), pointer(_links.grid)},
+         {QLatin1String(kKeyWindow), pointer(_links.grid->host()->windowKey())}});
 }
 
 void ZELSequenceGridView::focusInEvent(QFocusEvent* event)
 {
     MUPhotoView::focusInEvent(event);
-    isActivateClick = event->reason() == Qt::MouseFocusReason;
-    emit tookFocus();
+    if (acceptsFirstResponder())
+        tellOfFocus();
+}
+
+// A menu, or another window in front, ends nothing.
+void ZELSequenceGridView::focusOutEvent(QFocusEvent* event)
+{
+    MUPhotoView::focusOutEvent(event);
+    if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
+        return;
+    closePendingMeasurements(true);
+    isActivateClick = false;
+    setNeedsDisplay();
+}
+
+void ZELSequenceGridView::closePendingMeasurements(bool close)
+{
+    if (_links.gestures)
+        _links.gestures->closePendingMeasurements(close);
+}
+
+void ZELSequenceGridView::stopEditing()
+{
+    if (_links.gestures)
+        _links.gestures->stopEditing();
+}
+
+// ---- cursor ----
+
+void ZELSequenceGridView::updateTrackingAreas()
+{
+    const QPointF point = viewport()->mapFromGlobal(QPointF(QCursor::pos()));
+    if (viewport()->underMouse())
+        updateCursor(point);
+}
+
+void ZELSequenceGridView::updateCursor(const QPointF& /*point*/) {}
+
+void ZELSequenceGridView::leaveEvent(QEvent* event)
+{
+    MUPhotoView::leaveEvent(event);
+    viewport()->unsetCursor();
 }

@@ -31,7 +31,7 @@ private:
     Words* fLog;
 };
 
-class FakeHost final : public GridHost, public ToolBox, public CineStage {
+class FakeHost : public GridHost, public ToolBox, public CineStage {
 public:
     explicit FakeHost(ZELDcmTree* tree) : fTree(tree) {}
 

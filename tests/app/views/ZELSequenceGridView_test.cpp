@@ -1,8 +1,7 @@
 // Real events of keys, wheel and mouse, and what they come to in the model.
-#include "app/views/ZELSequenceGridView.h"
-
 #include "app/grid/GridFixture.h"
 #include "app/tools/ZELToolsController.h"
+#include "app/views/ZELDraggingSequenceGridView.h"
 
 #include <QImage>
 #include <QScrollBar>
@@ -52,7 +51,7 @@ struct Shown {
     ZELToolsController tools;
     FrameNavigation navigation{&host};
     ViewerActions actions{&host};
-    std::optional<ZELSequenceGridView> view;
+    std::optional<ZELDraggingSequenceGridView> view;
 };
 
 TEST(ZELSequenceGridView, goes_where_keys_lead)

@@ -1,0 +1,146 @@
+#include "viewer/GridsPane.h"
+
+#include "app/tools/MouseTrackers.h"
+#include "dicom_core/look/WindowText.h"
+#include "dicom_core/tree/dk_SequenceBase.h"
+
+#include "qpix/zelImageSource.h"
+#include <QDesktopServices>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <filesystem>
+#include <utility>
+
+GridsPane::GridsPane(ZELDcmTree* tree, QWidget* parent)
+    : QWidget(parent),
+      _tree(tree),
+      _navigation(this),
+      _actions(this),
+      _zoomed(NotificationCenter::Default().AddObserver(
+          kNoteZoomChanged, [this](const Notification& note) { zoomDidChange(note); }))
+{
+    _tools.changeToolTo(kToolWindow);
+    auto* box = new QVBoxLayout(this);
+    box->setContentsMargins({});
+    switchToSequenceViewWithID(LayoutForOpening(*tree), false);
+}
+
+// Layouts go before what they name.
+GridsPane::~GridsPane()
+{
+    _target = {};
+    qDeleteAll(findChildren<GridLayoutView*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+// The old layout may be asking for this, out of one of its menus, so it goes later.
+void GridsPane::switchToSequenceViewWithID(int layout, bool /*keepOld*/)
+{
+    if (!ControllerWithID(layout))
+        return;
+    auto grids = std::make_shared<MultiGridViewController>(this, layout);
+    HangSequences(grids.get(), _grids.get(), this);
+    if (_grids)
+        grids->localizers().setShowLocalizers(_grids->localizers().showLocalizers());
+    GridLayoutView* old = std::exchange(
+        _layout, new GridLayoutView(grids, {nullptr, &_tools, &_navigation, &_actions}));
+    _grids = std::move(grids);
+    _target = _grids->ObserveKey("targetSequence", [this](std::string_view, KeyPhase phase) {
+        if (phase == KeyPhase::DidChange)
+            tellOfTarget();
+    });
+    if (old) {
+        old->hide();
+        QWidget::layout()->removeWidget(old);
+        old->deleteLater();
+    }
+    QWidget::layout()->addWidget(_layout);
+    QWidget::layout()->activate();
+    _layout->fitGridDims();
+    connect(_layout, &GridLayoutView::cellsPainted, this, &GridsPane::cellsPainted);
+    if (old)
+        view()->becomeFirstResponder();
+    tellOfTarget();
+}
+
+void GridsPane::tellOfTarget()
+{
+    if (targetChanged && proxy())
+        targetChanged(proxy()->theSequence());
+}
+
+void GridsPane::showSequence(dk_SequenceBase* sequence)
+{
+    if (sequence)
+        _actions.U_DoJumpView(grid(), proxyOf(sequence));
+}
+
+GridsPane::Caption GridsPane::caption() const
+{
+    Caption caption;
+    dk_SequenceBase* sequence = grid().curr_dkSequence();
+    const dk_ImageFrameInfo* info =
+        sequence ? sequence->GetImageFrameInfo(proxy()->currentFrame()) : nullptr;
+    if (!info || !info->fSource)
+        return caption;
+    std::int32_t frames = 1;
+    if (info->fSource->GetFrameCount(&frames))
+        frames = 1;
+    caption.path = info->fSource->GetDataPath();
+    caption.frame = info->fFrameInFile;
+    caption.framesOfFile = frames;
+    caption.failed = grid().pictures().hasFailed(proxy()->currentFrame());
+    const zel_TransformRec& record = info->fTransform;
+    if (!caption.failed && proxy()->isDICOMGray() && record.voiWidth > 0) {
+        caption.width = WindowValueText(record.voiInfo, record.voiWidth);
+        caption.level = WindowValueText(record.voiInfo, record.voiLevel);
+    }
+    return caption;
+}
+
+std::vector<GridsPane::Grid*> GridsPane::gridControllers() const
+{
+    return _grids ? _grids->theSequenceViewControllers() : std::vector<Grid*>();
+}
+
+GridsPane::Grid* GridsPane::activeSequenceGridController() const
+{
+    return _grids ? _grids->activeSequenceGridController() : nullptr;
+}
+
+void GridsPane::activateGrid(Grid& grid)
+{
+    if (ZELDraggingSequenceGridView* view = _layout->viewOf(&grid))
+        view->becomeFirstResponder();
+}
+
+void GridsPane::changeSequenceTo(std::shared_ptr<ZELSequenceProxy> proxy, Grid& grid)
+{
+    _grids->changeSequenceTo(std::move(proxy), grid);
+}
+
+void GridsPane::U_ActivateSequence(std::shared_ptr<ZELSequenceProxy> proxy, Grid& grid)
+{
+    _grids->U_ActivateSequence(proxy, grid);
+}
+
+bool GridsPane::showLocalizers() const { return _grids && _grids->localizers().showLocalizers(); }
+
+void GridsPane::revealFile(const std::string& path)
+{
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(folder.string())));
+}
+
+std::shared_ptr<ZELSequenceProxy> GridsPane::proxyOf(dk_SequenceBase* sequence)
+{
+    auto& proxy = _proxies[sequence];
+    if (!proxy)
+        proxy = std::make_shared<ZELSequenceProxy>(sequence);
+    return proxy;
+}
+
+void GridsPane::zoomDidChange(const Notification& note)
+{
+    if (note.object == static_cast<GridSurface*>(view()))
+        _actions.setZoomTo(note.userInfo.value(QLatin1String(kKeyZoom)).toDouble(), grid(), 0);
+}
