@@ -1,6 +1,7 @@
 #include "viewer/GridsPane.h"
 
 #include "app/tools/MouseTrackers.h"
+#include "app/views/GridSetupSheet.h"
 #include "dicom_core/look/WindowText.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
 
@@ -121,6 +122,14 @@ void GridsPane::changeSequenceTo(std::shared_ptr<ZELSequenceProxy> proxy, Grid& 
 void GridsPane::U_ActivateSequence(std::shared_ptr<ZELSequenceProxy> proxy, Grid& grid)
 {
     _grids->U_ActivateSequence(proxy, grid);
+}
+
+// The sheet goes with its layout.
+void GridsPane::openGridSetupDialog(Grid& grid)
+{
+    auto* sheet = new GridSetupSheet(&grid, _layout);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->open();
 }
 
 bool GridsPane::showLocalizers() const { return _grids && _grids->localizers().showLocalizers(); }

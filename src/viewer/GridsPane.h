@@ -51,7 +51,7 @@ public:
     [[nodiscard]] bool showLocalizers() const override;
     [[nodiscard]] int protocolItemTag() const override { return _grids->protocolItemTag(); }
     void switchToSequenceViewWithID(int layout, bool keepOld) override;
-    void openGridSetupDialog(Grid& /*grid*/) override {}
+    void openGridSetupDialog(Grid& grid) override;
     [[nodiscard]] bool zelWindowIsReady() const override { return true; }
     [[nodiscard]] bool windowIsClosing() const override { return false; }
     [[nodiscard]] const void* windowKey() const override { return this; }

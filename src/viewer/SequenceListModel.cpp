@@ -108,9 +108,15 @@ QVariant SequenceListModel::headerData(int section, Qt::Orientation orientation,
 Qt::ItemFlags SequenceListModel::flags(const QModelIndex& index) const
 {
     // Without flags the keyboard passes over the headings.
-    return treeRow(index.row()).IsSequence()
-               ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren
-               : Qt::NoItemFlags;
+    return treeRow(index.row()).IsSequence() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable |
+                                                   Qt::ItemNeverHasChildren | Qt::ItemIsDragEnabled
+                                             : Qt::NoItemFlags;
+}
+
+QMimeData* SequenceListModel::mimeData(const QModelIndexList& indexes) const
+{
+    return indexes.isEmpty() || !dataOfDrag ? nullptr
+                                            : dataOfDrag(treeRow(indexes.front().row()).Sequence());
 }
 
 const TreeRow& SequenceListModel::treeRow(int row) const

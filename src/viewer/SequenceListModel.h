@@ -5,6 +5,7 @@
 #include "viewer/TreeFrames.h"
 
 #include <QAbstractTableModel>
+#include <functional>
 
 class SequenceListModel final : public QAbstractTableModel {
 public:
@@ -19,9 +20,13 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
     [[nodiscard]] const TreeRow& treeRow(int row) const;
     [[nodiscard]] QModelIndex firstSequence() const;  // invalid if there is none
     [[nodiscard]] QModelIndex indexOf(const dk_SequenceBase* sequence) const;  // the same
+
+    // Makes what a dragged sequence carries.
+    std::function<QMimeData*(dk_SequenceBase*)> dataOfDrag;
 
 private:
     std::vector<TreeRow> _rows;

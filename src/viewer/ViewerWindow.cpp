@@ -1,5 +1,6 @@
 #include "viewer/ViewerWindow.h"
 
+#include "app/views/SequenceMime.h"
 #include "dicom_core/imaging/LoadFrame.h"
 #include "dicom_core/opening/PathNames.h"
 #include "dicom_core/opening/ZELDcmTree.h"
@@ -55,8 +56,13 @@ ViewerWindow::ViewerWindow(ViewerCommands* commands, std::unique_ptr<ZELDcmTree>
     };
     // Queued: labels are not changed while cells are being painted.
     connect(_pane, &GridsPane::cellsPainted, this, &ViewerWindow::onPainted, Qt::QueuedConnection);
-    connect(_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &ViewerWindow::showSequenceAt);
+    // By the release, so that a press may begin a drag.
+    connect(_list, &QTreeView::clicked, this, &ViewerWindow::showSequenceAt);
+    connect(_list, &QTreeView::activated, this, &ViewerWindow::showSequenceAt);
+    _sequences.dataOfDrag = [this](dk_SequenceBase* sequence) {
+        return new SequenceMime(kTreeNodePasteboardType, _pane->proxyOf(sequence),
+                                _pane->windowKey());
+    };
     _pane->targetChanged(_pane->proxy() ? _pane->proxy()->theSequence() : nullptr);
     resize(kFirstSize.boundedTo(screen()->availableSize() * 0.9));
 }
@@ -93,6 +99,8 @@ void ViewerWindow::layOutList()
     _list->setRootIsDecorated(false);
     _list->setItemsExpandable(false);
     _list->setAllColumnsShowFocus(true);
+    _list->setDragEnabled(true);
+    _list->setDragDropMode(QAbstractItemView::DragOnly);
     // A click chooses; the keys go on paging frames.
     _list->setFocusPolicy(Qt::TabFocus);
     QHeaderView* header = _list->header();
