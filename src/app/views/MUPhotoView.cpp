@@ -3,8 +3,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QSignalBlocker>
 #include <QWheelEvent>
+#include <utility>
 
 namespace {
 
@@ -28,10 +28,12 @@ void MUPhotoView::syncScrollBar()
 {
     const GridViewport* shown = cells();
     QScrollBar* bar = verticalScrollBar();
-    const QSignalBlocker blocker(bar);
+    // Its signals go on: with them it shows and hides.
+    const bool was = std::exchange(_syncing, true);
     bar->setPageStep(shown ? shown->gridRows() : 1);
     bar->setRange(0, shown ? shown->matrix().lastFirstRow() : 0);
     bar->setValue(shown ? shown->firstRow() : 0);
+    _syncing = was;
 }
 
 bool MUPhotoView::eventFilter(QObject* watched, QEvent* event)
@@ -75,6 +77,8 @@ void MUPhotoView::wheelEvent(QWheelEvent* event)
 
 void MUPhotoView::scrollContentsBy(int /*dx*/, int /*dy*/)
 {
+    if (_syncing)
+        return;
     if (GridViewport* shown = cells(); shown && shown->setFirstRow(verticalScrollBar()->value()))
         boundsDidChange();
     viewport()->update();

@@ -47,5 +47,6 @@ protected:
 
 private:
     WheelSteps _wheel;
-    QTimer _liveResize;  // runs while sizes keep changing
+    bool _syncing = false;  // the scroll bar follows the cells
+    QTimer _liveResize;     // runs while sizes keep changing
 };

@@ -95,6 +95,8 @@ TEST(ZELSequenceGridView, pages_by_the_wheel_and_zooms_about_the_pointer)
     EXPECT_EQ(matrix.Frame(), 1) << "a matrix scrolls, its frame stays";
     EXPECT_EQ(matrix.grid.viewport().firstRow(), 1);
     EXPECT_EQ(matrix.view->verticalScrollBar()->value(), 1);
+    EXPECT_TRUE(matrix.view->verticalScrollBar()->isVisible());
+    EXPECT_FALSE(Shown(9).view->verticalScrollBar()->isVisible()) << "all cells are seen";
 
     Shown zoomed;
     zoomed.grid.currZELSequence()->changeZoomForFrame(1, 400);
