@@ -62,6 +62,8 @@ int prefs_ToolScope() { return ReadInt("ToolScope"); }
 void prefs_Set_ToolScope(int scope) { Store("ToolScope", scope); }
 bool prefs_EnhanceVOIContrast() { return ReadBool("EnhanceVOIContrastFlag"); }
 void prefs_Set_EnhanceVOIContrast(bool on) { Store("EnhanceVOIContrastFlag", on); }
+bool prefs_BnCDialogPreview() { return ReadBool("BnCDialogPreviewFlag"); }
+void prefs_Set_BnCDialogPreview(bool on) { Store("BnCDialogPreviewFlag", on); }
 bool prefs_LimitAutoFit() { return ReadBool("LimitAutoFitTo100Flag"); }
 void prefs_Set_LimitAutoFit(bool on) { Store("LimitAutoFitTo100Flag", on); }
 int prefs_PreviewPictSize() { return ReadInt("PreviewPictSize"); }

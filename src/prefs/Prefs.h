@@ -76,6 +76,9 @@ void prefs_Set_ToolScope(int scope);
 // formula, whatever the frame's range.
 [[nodiscard]] bool prefs_EnhanceVOIContrast();
 void prefs_Set_EnhanceVOIContrast(bool on);
+// The sheet that adjusts a window shows what it does at once.
+[[nodiscard]] bool prefs_BnCDialogPreview();
+void prefs_Set_BnCDialogPreview(bool on);
 [[nodiscard]] bool prefs_LimitAutoFit();  // kept for older settings; nothing reads it
 void prefs_Set_LimitAutoFit(bool on);
 [[nodiscard]] int prefs_PreviewPictSize();  // points; 23 is text only, 257 icons only

@@ -40,6 +40,7 @@ constexpr Flag kFlags[] = {
     {"SpecialUSXAHandlingFlag", prefs_Has_SpecialUSXAOpen, prefs_Set_Has_SpecialUSXAOpen, true},
     {"DecodeTextByCharacterSetFlag", prefs_DecodeTextByCharacterSet,
      prefs_Set_DecodeTextByCharacterSet, true},
+    {"BnCDialogPreviewFlag", prefs_BnCDialogPreview, prefs_Set_BnCDialogPreview, true},
     {"EnhanceVOIContrastFlag", prefs_EnhanceVOIContrast, prefs_Set_EnhanceVOIContrast, true},
     {"LimitAutoFitTo100Flag", prefs_LimitAutoFit, prefs_Set_LimitAutoFit, true},
     {"ShowPatientListPane", prefs_ShowPatientListPane, prefs_Set_ShowPatientListPane, true},

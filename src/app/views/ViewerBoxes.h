@@ -1,0 +1,39 @@
+// The boxes of a window's tool bar: zoom, window width and level, frame. They show the active grid's
+// values and follow them by themselves. Main thread only.
+#pragma once
+#include "app/tools/ZELFrameTextBoxController.h"
+#include "app/tools/ZELWWWLTextBoxController.h"
+#include "app/tools/ZELZoomTextBoxController.h"
+#include "app/views/NumberBox.h"
+
+class QLabel;
+
+class ViewerBoxes final : public QWidget {
+    Q_OBJECT
+
+public:
+    // Both outlive the boxes.
+    ViewerBoxes(GridHost* host, ViewerActions* actions, QWidget* parent = nullptr);
+
+    void retarget();  // the active grid has changed without a word
+    [[nodiscard]] NumberBox* zoomBox() const { return _zoomBox; }
+    [[nodiscard]] NumberBox* brightnessBox() const { return _brightnessBox; }
+    [[nodiscard]] NumberBox* contrastBox() const { return _contrastBox; }
+    [[nodiscard]] NumberBox* frameBox() const { return _frameBox; }
+    [[nodiscard]] ZELWWWLTextBoxController& windowController() { return _window; }
+
+signals:
+    void done();  // an edit has ended
+
+private:
+    NumberBox* addBox(const char* name, NumberBox::Controller controller, int columns);
+    NumberBox* addWindowBox(ZELWWWLTextBoxController::Box box, bool menu);
+    void refreshWindow();
+
+    ZELZoomTextBoxController _zoom;
+    ZELWWWLTextBoxController _window;
+    ZELFrameTextBoxController _frame;
+    NumberBox *_zoomBox = nullptr, *_brightnessBox = nullptr, *_contrastBox = nullptr,
+              *_frameBox = nullptr;
+    QLabel *_brightnessLabel = nullptr, *_contrastLabel = nullptr;
+};
