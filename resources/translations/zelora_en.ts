@@ -237,6 +237,339 @@
         <source>Other Physiological input</source>
         <translation>Other Physiological Input</translation>
     </message>
+    <message>
+        <source>Series Grid</source>
+        <translatorcomment>how the window is divided among sequences</translatorcomment>
+        <translation>Series Grid</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Single</translation>
+    </message>
+    <message>
+        <source>2 rows</source>
+        <translation>2 rows</translation>
+    </message>
+    <message>
+        <source>2 columns</source>
+        <translation>2 columns</translation>
+    </message>
+    <message>
+        <source>1 top, 2 bottom</source>
+        <translation>1 top, 2 bottom</translation>
+    </message>
+    <message>
+        <source>2 top, 1 bottom</source>
+        <translation>2 top, 1 bottom</translation>
+    </message>
+    <message>
+        <source>1 left, 2 right</source>
+        <translation>1 left, 2 right</translation>
+    </message>
+    <message>
+        <source>2 left, 1 right</source>
+        <translation>2 left, 1 right</translation>
+    </message>
+    <message>
+        <source>3 rows</source>
+        <translation>3 rows</translation>
+    </message>
+    <message>
+        <source>3 columns</source>
+        <translation>3 columns</translation>
+    </message>
+    <message>
+        <source>1 top, 3 bottom</source>
+        <translation>1 top, 3 bottom</translation>
+    </message>
+    <message>
+        <source>3 top, 1 bottom</source>
+        <translation>3 top, 1 bottom</translation>
+    </message>
+    <message>
+        <source>1 left, 3 right</source>
+        <translation>1 left, 3 right</translation>
+    </message>
+    <message>
+        <source>3 left, 1 right</source>
+        <translation>3 left, 1 right</translation>
+    </message>
+    <message>
+        <source>2 top, 2 bottom</source>
+        <translation>2 top, 2 bottom</translation>
+    </message>
+    <message>
+        <source>2 left, 2 right</source>
+        <translation>2 left, 2 right</translation>
+    </message>
+    <message>
+        <source>4 rows</source>
+        <translation>4 rows</translation>
+    </message>
+    <message>
+        <source>4 columns</source>
+        <translation>4 columns</translation>
+    </message>
+    <message>
+        <source>Image Grid</source>
+        <translatorcomment>rows and columns of frames, here and below</translatorcomment>
+        <translation>Image Grid</translation>
+    </message>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>1 x 2</source>
+        <translation>1 x 2</translation>
+    </message>
+    <message>
+        <source>2 x 1</source>
+        <translation>2 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>2 x 3</source>
+        <translation>2 x 3</translation>
+    </message>
+    <message>
+        <source>3 x 2</source>
+        <translation>3 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>3 x 4</source>
+        <translation>3 x 4</translation>
+    </message>
+    <message>
+        <source>4 x 3</source>
+        <translation>4 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>Other...</source>
+        <translation>Other...</translation>
+    </message>
+    <message>
+        <source>Previous Sequence</source>
+        <translation>Previous Sequence</translation>
+    </message>
+    <message>
+        <source>Next Sequence</source>
+        <translation>Next Sequence</translation>
+    </message>
+    <message>
+        <source>Mark Sequence</source>
+        <translation>Mark Sequence</translation>
+    </message>
+    <message>
+        <source>Unmark Sequence</source>
+        <translation>Unmark Sequence</translation>
+    </message>
+    <message>
+        <source>Go</source>
+        <translation>Go</translation>
+    </message>
+    <message>
+        <source>First Frame</source>
+        <translation>First Frame</translation>
+    </message>
+    <message>
+        <source>Previous Frame</source>
+        <translation>Previous Frame</translation>
+    </message>
+    <message>
+        <source>Next Frame</source>
+        <translation>Next Frame</translation>
+    </message>
+    <message>
+        <source>Last Frame</source>
+        <translation>Last Frame</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Enlarge</source>
+        <translation>Enlarge</translation>
+    </message>
+    <message>
+        <source>Reduce</source>
+        <translation>Reduce</translation>
+    </message>
+    <message>
+        <source>Normal Size</source>
+        <translation>Normal Size</translation>
+    </message>
+    <message>
+        <source>Fit in Window</source>
+        <translation>Fit in Window</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Flip Horizontal</source>
+        <translation>Flip Horizontal</translation>
+    </message>
+    <message>
+        <source>Flip Vertical</source>
+        <translation>Flip Vertical</translation>
+    </message>
+    <message>
+        <source>Rotate Left</source>
+        <translation>Rotate Left</translation>
+    </message>
+    <message>
+        <source>Rotate Right</source>
+        <translation>Rotate Right</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Invert</translation>
+    </message>
+    <message>
+        <source>Show Demographics</source>
+        <translation>Show Demographics</translation>
+    </message>
+    <message>
+        <source>Hide Demographics</source>
+        <translation>Hide Demographics</translation>
+    </message>
+    <message>
+        <source>Show Scale</source>
+        <translation>Show Scale</translation>
+    </message>
+    <message>
+        <source>Hide Scale</source>
+        <translation>Hide Scale</translation>
+    </message>
+    <message>
+        <source>Show Overlays</source>
+        <translation>Show Overlays</translation>
+    </message>
+    <message>
+        <source>Hide Overlays</source>
+        <translation>Hide Overlays</translation>
+    </message>
+    <message>
+        <source>Show Measurements</source>
+        <translation>Show Measurements</translation>
+    </message>
+    <message>
+        <source>Hide Measurements</source>
+        <translation>Hide Measurements</translation>
+    </message>
+    <message>
+        <source>Show US Regions</source>
+        <translation>Show US Regions</translation>
+    </message>
+    <message>
+        <source>Hide US Regions</source>
+        <translation>Hide US Regions</translation>
+    </message>
+    <message>
+        <source>Play Cine</source>
+        <translation>Play Cine</translation>
+    </message>
+    <message>
+        <source>Stop Cine</source>
+        <translation>Stop Cine</translation>
+    </message>
+    <message>
+        <source>Play All</source>
+        <translation>Play All</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Stop All</translation>
+    </message>
+    <message>
+        <source>Reveal in Finder</source>
+        <translatorcomment>shows the file in the desktop's program for files</translatorcomment>
+        <translation>Show in File Manager</translation>
+    </message>
+    <message>
+        <source>Stroke On</source>
+        <translation>Stroke On</translation>
+    </message>
+    <message>
+        <source>Stroke Off</source>
+        <translation>Stroke Off</translation>
+    </message>
+    <message>
+        <source>Fill On</source>
+        <translation>Fill On</translation>
+    </message>
+    <message>
+        <source>Fill Off</source>
+        <translation>Fill Off</translation>
+    </message>
+    <message>
+        <source>Show Label</source>
+        <translation>Show Label</translation>
+    </message>
+    <message>
+        <source>Hide Label</source>
+        <translation>Hide Label</translation>
+    </message>
+    <message>
+        <source>Shadow On</source>
+        <translation>Shadow On</translation>
+    </message>
+    <message>
+        <source>Shadow Off</source>
+        <translation>Shadow Off</translation>
+    </message>
+    <message>
+        <source>Bring to Front</source>
+        <translation>Bring to Front</translation>
+    </message>
+    <message>
+        <source>Move Forward</source>
+        <translation>Move Forward</translation>
+    </message>
+    <message>
+        <source>Move Backwards</source>
+        <translation>Move Backwards</translation>
+    </message>
+    <message>
+        <source>Send to Back</source>
+        <translation>Send to Back</translation>
+    </message>
+    <message>
+        <source>Propagate Measurement</source>
+        <translation>Propagate Measurement</translation>
+    </message>
+    <message>
+        <source>Delete Measurement</source>
+        <translation>Delete Measurement</translation>
+    </message>
+    <message>
+        <source>Delete All Measurements</source>
+        <translation>Delete All Measurements</translation>
+    </message>
+    <message>
+        <source>Meas Contextual</source>
+        <translatorcomment>menu of a measurement, for screen readers</translatorcomment>
+        <translation>Meas Contextual</translation>
+    </message>
+    <message>
+        <source>Grid Contextual</source>
+        <translatorcomment>menu of a cell, for screen readers</translatorcomment>
+        <translation>Grid Contextual</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>

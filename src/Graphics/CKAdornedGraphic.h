@@ -33,6 +33,7 @@ struct ShapeCursor {
 };
 inline constexpr const char* kPointingHandCursor = "pointinghand";
 inline constexpr const char* kCrosshairCursor = "crosshair";
+inline constexpr const char* kNotAllowedCursor = "notallowed";
 
 // Where the label stands by the shape's bounds.
 enum class LabelPosition : std::int32_t { Above = 0, TopLeft = 1, BelowRight = 2 };

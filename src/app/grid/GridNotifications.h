@@ -16,6 +16,7 @@ inline constexpr std::string_view kNoteMeasurementChange = "ZELMeasurementChange
 inline constexpr std::string_view kNoteVOIChanged = "Tool_VOI_Changed";
 inline constexpr std::string_view kNoteBnCChanged = "Tool_BnC_Changed";
 inline constexpr std::string_view kNoteImageCenterChanged = "Tool_ImageCenter_Changed";
+inline constexpr std::string_view kNoteUSRegionsShowHide = "USRegionsShowHide";
 
 inline constexpr const char* kKeyNewCellIndex = "NewCellIndex";  // frame less 1
 inline constexpr const char* kKeyCellChangeType = "CellChangeType";

@@ -1,0 +1,321 @@
+#include "app/tools/GridCommands.h"
+
+#include "app/tools/CineRules.h"
+#include "app/tools/GridMenuItems.h"
+#include "app/tools/ViewSwitches.h"
+#include "dicom_core/opening/ZELDcmTree.h"
+#include "prefs/Prefs.h"
+
+#include <algorithm>
+
+namespace {
+
+using Target = GridTarget;
+using Proxy = ZELSequenceProxy;
+
+Proxy* ProxyOf(const Target& t) { return t.grid->currZELSequence().get(); }
+
+// What the sequence answers; no without one.
+template <auto Question>
+bool Sequence(const Target& t)
+{
+    return ProxyOf(t) && (ProxyOf(t)->*Question)();
+}
+
+bool Always(const Target&) { return true; }
+bool Never(const Target&) { return false; }
+
+bool HasFrame(const Target& t)
+{
+    return ProxyOf(t) && t.frame >= 0 && t.grid->resolved(t.frame) <= ProxyOf(t)->totalFrames() &&
+           ProxyOf(t)->totalFrames() > 0;
+}
+
+// ---- layouts, shapes of the grid, sequences ----
+
+// The last layout that so many sequences can fill.
+int LastLayoutTagFor(std::int32_t sequences)
+{
+    const int grids = std::min<int>(sequences, kMostGrids);
+    int tag = kFirstLayoutTag - 1;
+    while (NumGridsForControllerWithID(tag + 1 + kLayoutMenuOffset) > 0 &&
+           NumGridsForControllerWithID(tag + 1 + kLayoutMenuOffset) <= grids)
+        ++tag;
+    return tag;
+}
+
+bool IsPresentLayout(const Target& t)
+{
+    return t.tag + kLayoutMenuOffset == t.host->protocolItemTag();
+}
+
+bool LayoutIsOffered(const Target& t)
+{
+    const ZELDcmTree* tree = t.host->tree();
+    return LayoutMenuItemOf(t.tag) && tree && !HasCinePlaying(*t.host) &&
+           t.tag <= LastLayoutTagFor(tree->numberOfGoodSequencesFast());
+}
+
+void SwitchLayout(const Target& t, bool)
+{
+    if (!IsPresentLayout(t))
+        t.host->switchToSequenceViewWithID(t.tag + kLayoutMenuOffset, true);
+}
+
+bool IsImageGrid(const Target& t) { return GridShapeOf(t.tag - kFirstImageGridTag) != nullptr; }
+bool HasCustomGrid(const Target& t) { return t.grid->gridSetupID() == kCustomGridSetup; }
+void SetImageGrid(const Target& t, bool) { t.grid->setGridSetupID(t.tag - kFirstImageGridTag); }
+void OpenGridSetup(const Target& t, bool) { t.host->openGridSetupDialog(*t.grid); }
+
+bool HasManyGoodSequences(const Target& t)
+{
+    return t.host->tree() && t.host->tree()->hasMoreThanOneGoodSequences();
+}
+
+template <void (ViewerActions::*Action)(ViewerActions::Grid&)>
+void OnGrid(const Target& t, bool)
+{
+    (t.actions->*Action)(*t.grid);
+}
+
+// ---- frames ----
+
+template <FrameStep Step>
+void Go(const Target& t, bool)
+{
+    t.grid->gotoFrame(Step);
+}
+
+template <void (ViewerActions::*Action)(ViewerActions::Grid&, std::int32_t)>
+void OnFrame(const Target& t, bool)
+{
+    (t.actions->*Action)(*t.grid, t.frame);
+}
+
+template <bool Vertical>
+void Flip(const Target& t, bool)
+{
+    t.actions->flipView(*t.grid, t.frame, Vertical);
+}
+
+template <bool Left>
+void Rotate(const Target& t, bool)
+{
+    t.actions->rotateView(*t.grid, t.frame, Left);
+}
+
+void Reveal(const Target& t, bool) { t.grid->revealFileForFrame(t.frame); }
+
+// ---- what lies over the frames ----
+
+bool ShowsMeasurements(const Target& t)
+{
+    return Sequence<&Proxy::viewShowsMeasurements>(t) && Sequence<&Proxy::hasMeasurements>(t);
+}
+
+bool ShowsUSRegions(const Target& t)
+{
+    return Sequence<&Proxy::hasUSRegions>(t) && prefs_Get_ShowsUSRegions();
+}
+
+void Demographics(const Target& t, bool option)
+{
+    SwitchDemographicsForView(*t.host, *t.grid, option);
+}
+
+void Scale(const Target& t, bool) { SwitchScaleForView(*t.grid); }
+void Overlays(const Target& t, bool) { SwitchDicomOverlaysForView(*t.host, *t.grid); }
+void Measurements(const Target& t, bool) { SwitchMeasurementsForView(*t.grid); }
+void USRegions(const Target& t, bool) { SwitchUSRegions(*t.host); }
+
+// ---- cine ----
+
+bool IsPlaying(const Target& t) { return t.grid->cineModeIsON(); }
+bool HasManyGrids(const Target& t) { return t.host->gridControllers().size() >= 2; }
+
+bool CanPlayAll(const Target& t)
+{
+    return HasManyGrids(t) && CanPlaySomeCine(*t.host) && !AllCinesArePlaying(*t.host);
+}
+
+bool CanStopAll(const Target& t) { return HasManyGrids(t) && HasCinePlaying(*t.host); }
+void Play(const Target& t, bool) { t.host->cineStage().startCine(*t.grid, t.frame); }
+void Stop(const Target& t, bool) { t.host->cineStage().stopCine(*t.grid); }
+void PlayAll(const Target& t, bool) { t.host->cineStage().playAllCines(); }
+void StopAll(const Target& t, bool) { t.host->cineStage().stopAllCines(); }
+
+// ---- one measurement ----
+
+bool HasStroke(const Target& t) { return t.shape->canSetStroke() && t.shape->hasStrokeON(); }
+bool CanSetStroke(const Target& t) { return t.shape->canSetStroke(); }
+bool HasFill(const Target& t) { return t.shape->canSetFill() && t.shape->hasFillON(); }
+bool CanSetFill(const Target& t) { return t.shape->canSetFill(); }
+bool HasLabel(const Target& t) { return t.shape->_hasDescription && t.shape->_descriptionON; }
+bool CanSetLabel(const Target& t) { return t.shape->_hasDescription; }
+bool HasShadow(const Target& t) { return t.shape->_shadowON; }
+
+void Redraw(const Target& t) { t.grid->setNeedsDisplayForMeasurement(t.shape->_global, t.frame); }
+
+void Stroke(const Target& t, bool)
+{
+    t.shape->setHasStrokeON(!t.shape->hasStrokeON());
+    Redraw(t);
+}
+
+void Fill(const Target& t, bool)
+{
+    t.shape->setHasFillON(!t.shape->hasFillON());
+    Redraw(t);
+}
+
+template <bool CKAdornedGraphic::* Switch>
+void Turn(const Target& t, bool)
+{
+    (*t.shape).*Switch = !((*t.shape).*Switch);
+    Redraw(t);
+}
+
+// From 1; -1 when it isn't there.
+std::int32_t StackIndex(const Target& t)
+{
+    return ProxyOf(t)->measurementIndexForShape(t.shape.get(), t.frame);
+}
+
+bool CanRise(const Target& t)
+{
+    return StackIndex(t) >= 1 && StackIndex(t) < ProxyOf(t)->totalMeasurementsInFrame(t.frame) &&
+           ProxyOf(t)->totalFrames() > 1;
+}
+
+bool CanSink(const Target& t) { return StackIndex(t) > 1; }
+
+bool CanPropagate(const Target& t) { return !t.shape->_global && ProxyOf(t)->totalFrames() >= 2; }
+
+template <void (ZELSequenceGridViewModelController::*Action)(const CKShapePtr&, std::int32_t)>
+void OnShape(const Target& t, bool)
+{
+    (t.grid->*Action)(t.shape, t.frame);
+}
+
+void DeleteAll(const Target& t, bool) { t.grid->deleteAllMeasurementsInFrame(t.frame); }
+
+// ---- the table ----
+
+// What a command needs beside its own rule.
+enum Need : unsigned {
+    kNothing = 0,
+    kStill = 1,   // the grid plays no cine
+    kFrame = 2,   // the frame is there
+    kPlayer = 4,  // there is something that plays
+    kShape = 8,   // a measurement, and its frame
+};
+
+struct Row {
+    GridCommand command;
+    const char* title;
+    const char* titleOn;  // null: the same, with a check mark
+    bool (*isOn)(const Target&);
+    bool (*rule)(const Target&);
+    unsigned needs;
+    void (*perform)(const Target&, bool option);
+    const char* shortcut = nullptr;
+};
+
+using C = GridCommand;
+using V = ViewerActions;
+using G = ZELSequenceGridViewModelController;
+using K = CKAdornedGraphic;
+
+// clang-format off
+constexpr Row kRows[] = {
+    {C::SwitchLayout, nullptr, nullptr, IsPresentLayout, LayoutIsOffered, kNothing, SwitchLayout},
+    {C::SetImageGrid, nullptr, nullptr, Never, IsImageGrid, kStill, SetImageGrid},
+    {C::OpenGridSetup, "Other...", nullptr, HasCustomGrid, Always, kStill, OpenGridSetup},
+    {C::PreviousSequence, "Previous Sequence", nullptr, Never, HasManyGoodSequences, kNothing, OnGrid<&V::gotoPreviousSequence>, "Ctrl+Left"},
+    {C::NextSequence, "Next Sequence", nullptr, Never, HasManyGoodSequences, kNothing, OnGrid<&V::gotoNextSequence>, "Ctrl+Right"},
+    {C::SwitchSequenceMark, "Mark Sequence", "Unmark Sequence", Sequence<&Proxy::userMarked>, Always, kNothing, OnGrid<&V::switchSequenceMark>},
+    {C::FirstFrame, "First Frame", nullptr, Never, Sequence<&Proxy::hasPrevFrame>, kStill, Go<FrameStep::First>, "Home"},
+    {C::PreviousFrame, "Previous Frame", nullptr, Never, Sequence<&Proxy::hasPrevFrame>, kStill, Go<FrameStep::Previous>},
+    {C::NextFrame, "Next Frame", nullptr, Never, Sequence<&Proxy::hasNextFrame>, kStill, Go<FrameStep::Next>},
+    {C::LastFrame, "Last Frame", nullptr, Never, Sequence<&Proxy::hasNextFrame>, kStill, Go<FrameStep::Last>, "End"},
+    {C::Enlarge, "Enlarge", nullptr, Never, Sequence<&Proxy::hasNextZoom>, kStill | kFrame, OnFrame<&V::nextZoomValue>},
+    {C::Reduce, "Reduce", nullptr, Never, Sequence<&Proxy::hasPrevZoom>, kStill | kFrame, OnFrame<&V::prevZoomValue>},
+    {C::NormalSize, "Normal Size", nullptr, Never, Always, kStill | kFrame, OnFrame<&V::normalZoomValue>},
+    {C::FitInWindow, "Fit in Window", nullptr, Never, Always, kStill | kFrame, OnFrame<&V::autoFitView>},
+    {C::FlipHorizontal, "Flip Horizontal", nullptr, Never, Always, kStill | kFrame, Flip<false>},
+    {C::FlipVertical, "Flip Vertical", nullptr, Never, Always, kStill | kFrame, Flip<true>},
+    {C::RotateLeft, "Rotate Left", nullptr, Never, Always, kStill | kFrame, Rotate<true>},
+    {C::RotateRight, "Rotate Right", nullptr, Never, Always, kStill | kFrame, Rotate<false>},
+    {C::Invert, "Invert", nullptr, Never, Always, kStill | kFrame, OnFrame<&V::invertColorsForView>},
+    {C::SwitchDemographics, "Show Demographics", "Hide Demographics", Sequence<&Proxy::viewShowsDemographics>, Always, kStill, Demographics},
+    {C::SwitchScale, "Show Scale", "Hide Scale", Sequence<&Proxy::viewShowsScale>, Sequence<&Proxy::hasScale>, kStill, Scale},
+    {C::SwitchOverlays, "Show Overlays", "Hide Overlays", Sequence<&Proxy::viewShowsDicomOverlays>, Sequence<&Proxy::hasDicomOverlays>, kStill, Overlays},
+    {C::SwitchMeasurements, "Show Measurements", "Hide Measurements", ShowsMeasurements, Sequence<&Proxy::hasMeasurements>, kStill, Measurements},
+    {C::SwitchUSRegions, "Show US Regions", "Hide US Regions", ShowsUSRegions, Sequence<&Proxy::hasUSRegions>, kStill, USRegions},
+    {C::PlayCine, "Play Cine", nullptr, Never, Sequence<&Proxy::canPlayCine>, kStill | kFrame | kPlayer, Play, "Space"},
+    {C::StopCine, "Stop Cine", nullptr, Never, IsPlaying, kPlayer, Stop, "Space"},
+    {C::PlayAllCines, "Play All", nullptr, Never, CanPlayAll, kPlayer, PlayAll},
+    {C::StopAllCines, "Stop All", nullptr, Never, CanStopAll, kPlayer, StopAll},
+    {C::RevealFile, "Reveal in Finder", nullptr, Never, Always, kFrame, Reveal},
+    {C::SwitchStroke, "Stroke On", "Stroke Off", HasStroke, CanSetStroke, kShape, Stroke},
+    {C::SwitchFill, "Fill On", "Fill Off", HasFill, CanSetFill, kShape, Fill},
+    {C::SwitchLabel, "Show Label", "Hide Label", HasLabel, CanSetLabel, kShape, Turn<&K::_descriptionON>},
+    {C::SwitchShadow, "Shadow On", "Shadow Off", HasShadow, Always, kShape, Turn<&K::_shadowON>},
+    {C::BringToFront, "Bring to Front", nullptr, Never, CanRise, kShape, OnShape<&G::bringMeasurementToFrontInFrame>},
+    {C::MoveForward, "Move Forward", nullptr, Never, CanRise, kShape, OnShape<&G::bringMeasurementForwardInFrame>},
+    {C::MoveBackwards, "Move Backwards", nullptr, Never, CanSink, kShape, OnShape<&G::sendMeasurementBackwardsInFrame>},
+    {C::SendToBack, "Send to Back", nullptr, Never, CanSink, kShape, OnShape<&G::sendMeasurementToBackInFrame>},
+    {C::PropagateMeasurement, "Propagate Measurement", nullptr, Never, CanPropagate, kShape, OnShape<&G::propagateMeasurement>},
+    {C::DeleteMeasurement, "Delete Measurement", nullptr, Never, Always, kShape, OnShape<&G::deleteMeasurementInFrame>},
+    {C::DeleteAllMeasurements, "Delete All Measurements", nullptr, Never, Always, kShape, DeleteAll},
+};
+// clang-format on
+
+constexpr bool RowsAreInTheOrderOfCommands()
+{
+    for (std::size_t i = 0; i < std::size(kRows); ++i) {
+        if (static_cast<std::size_t>(kRows[i].command) != i)
+            return false;
+    }
+    return std::size(kRows) == static_cast<std::size_t>(C::DeleteAllMeasurements) + 1;
+}
+static_assert(RowsAreInTheOrderOfCommands());
+
+const Row& RowOf(GridCommand command) { return kRows[static_cast<std::size_t>(command)]; }
+
+bool NeedsAreMet(unsigned needs, const Target& t)
+{
+    return !((needs & kStill) && t.grid->cineModeIsON()) &&
+           !((needs & kPlayer) && !t.host->cineStage().isAvailable()) &&
+           !((needs & kFrame) && !HasFrame(t)) && !((needs & kShape) && !(t.shape && HasFrame(t)));
+}
+
+bool IsEnabled(const Row& row, const Target& t) { return NeedsAreMet(row.needs, t) && row.rule(t); }
+
+const char* TitleOf(const Row& row, const Target& t, bool on)
+{
+    if (row.command == C::SwitchLayout)
+        return LayoutMenuItemOf(t.tag) ? LayoutMenuItemOf(t.tag)->title : nullptr;
+    if (row.command == C::SetImageGrid)
+        return IsImageGrid(t)
+                   ? kImageGridTitles[static_cast<std::size_t>(t.tag - kFirstImageGridTag)]
+                   : nullptr;
+    return on && row.titleOn ? row.titleOn : row.title;
+}
+
+}  // namespace
+
+GridCommandState StateOfGridCommand(GridCommand command, const GridTarget& target)
+{
+    const Row& row = RowOf(command);
+    const bool needsShape = row.needs & kShape;
+    const bool on = (!needsShape || target.shape) && row.isOn(target);
+    return {TitleOf(row, target, on), row.shortcut, IsEnabled(row, target), on && !row.titleOn};
+}
+
+void PerformGridCommand(GridCommand command, const GridTarget& target, bool option)
+{
+    const Row& row = RowOf(command);
+    if (IsEnabled(row, target))
+        row.perform(target, option);
+}
