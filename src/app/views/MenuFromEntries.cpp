@@ -66,6 +66,12 @@ void Fill(QMenu* menu, const std::vector<MenuEntry>& entries)
 
 }  // namespace
 
+void FillMenu(QMenu* menu, const std::vector<MenuEntry>& entries)
+{
+    menu->clear();
+    Fill(menu, entries);
+}
+
 std::unique_ptr<QMenu> NewMenu(const MenuEntry& root, QWidget* parent)
 {
     auto menu = std::make_unique<QMenu>(root.title, parent);

@@ -12,5 +12,8 @@ class QWidget;
 // the window around it.
 [[nodiscard]] std::unique_ptr<QMenu> NewMenu(const MenuEntry& root, QWidget* parent);
 
+// Puts these entries in place of what the menu has.
+void FillMenu(QMenu* menu, const std::vector<MenuEntry>& entries);
+
 // Of an entry's image: a layout's is painted, any other the file of that name among the icons.
 [[nodiscard]] QIcon MenuIcon(const QString& image);

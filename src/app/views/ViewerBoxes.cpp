@@ -28,23 +28,21 @@ ViewerBoxes::ViewerBoxes(GridHost* host, ViewerActions* actions, QWidget* parent
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
-    _zoomBox = addBox(
-        "Zoom",
-        {[this] { return _zoom.text(); }, [this] { return _zoom.mayEdit(); },
-         [this](const QString& typed) { return _zoom.textShouldEndEditing(typed); },
-         [this](const QString& typed) { _zoom.changeZoomValue(typed); },
-         [this] { return _zoom.updateZoomMenu(); }},
-        kNumberColumns);
+    _zoomBox = addBox("Zoom",
+                      {[this] { return _zoom.text(); }, [this] { return _zoom.mayEdit(); },
+                       [this](const QString& typed) { return _zoom.textShouldEndEditing(typed); },
+                       [this](const QString& typed) { _zoom.changeZoomValue(typed); },
+                       [this] { return _zoom.updateZoomMenu(); }},
+                      kNumberColumns);
     row->addWidget(_brightnessLabel = new QLabel);
     _brightnessBox = addWindowBox(ZELWWWLTextBoxController::Box::Brightness, false);
     row->addWidget(_contrastLabel = new QLabel);
     _contrastBox = addWindowBox(ZELWWWLTextBoxController::Box::Contrast, true);
-    _frameBox =
-        addBox("Frame",
-               {[this] { return _frame.text(); }, [this] { return _frame.mayEdit(); },
-                [this](const QString& typed) { return _frame.textShouldEndEditing(typed); },
-                [this](const QString& typed) { _frame.dothething(typed); }, nullptr},
-               kFrameColumns);
+    _frameBox = addBox("Frame",
+                       {[this] { return _frame.text(); }, [this] { return _frame.mayEdit(); },
+                        [this](const QString& typed) { return _frame.textShouldEndEditing(typed); },
+                        [this](const QString& typed) { _frame.dothething(typed); }, nullptr},
+                       kFrameColumns);
     refreshWindow();
 }
 

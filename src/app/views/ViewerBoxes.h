@@ -1,5 +1,5 @@
-// The boxes of a window's tool bar: zoom, window width and level, frame. They show the active grid's
-// values and follow them by themselves. Main thread only.
+// The boxes of a window's tool bar: zoom, window width and level, frame. They show the active
+// grid's values and follow them by themselves. Main thread only.
 #pragma once
 #include "app/tools/ZELFrameTextBoxController.h"
 #include "app/tools/ZELWWWLTextBoxController.h"

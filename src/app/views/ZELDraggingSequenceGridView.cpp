@@ -1,18 +1,28 @@
 #include "app/views/ZELDraggingSequenceGridView.h"
 
+#include "app/views/MenuFromEntries.h"
 #include "app/views/SequenceMime.h"
 #include "platform/NotificationCenter.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDialog>
 #include <QDrag>
 #include <QMenu>
 #include <QPainter>
+#include <algorithm>
 
 namespace {
 
 constexpr double kHighlightWidth = 5;  // points
 constexpr double kDragOpacity = 0.5;
+
+bool HasSheet(const QWidget& window)
+{
+    return std::ranges::any_of(window.findChildren<QDialog*>(), [](const QDialog* dialog) {
+        return dialog->isVisible() && dialog->isModal();
+    });
+}
 
 QVariant Pointer(const void* pointer) { return QVariant::fromValue(const_cast<void*>(pointer)); }
 
@@ -38,9 +48,14 @@ void ZELDraggingSequenceGridView::drawRect(QPainter* painter, const QRectF& dirt
 
 // ---- menus ----
 
-std::unique_ptr<QMenu> ZELDraggingSequenceGridView::menuForPoint(const QPointF& /*point*/)
+std::unique_ptr<QMenu> ZELDraggingSequenceGridView::menuForPoint(const QPointF& point)
 {
-    return nullptr;
+    Grid& grid = sequenceGridController();
+    if (HasSheet(*window()))
+        return nullptr;
+    _contextual = contextualTarget(grid, point);
+    const auto menu = menuForTarget(grid, *grid.host(), *links().actions, _contextual);
+    return menu ? NewMenu(*menu, window()) : nullptr;
 }
 
 void ZELDraggingSequenceGridView::rightClicked(const QPointF& point)

@@ -1,9 +1,9 @@
 // A grid's view with its contextual menus, and with sequences dragged out of it and dropped on it.
 // Main thread only.
 #pragma once
+#include "app/tools/ContextualMenus.h"
 #include "app/views/ZELEnhancedGridView.h"
 
-class CKAdornedGraphic;
 class QMenu;
 class SequenceMime;
 
@@ -16,7 +16,8 @@ public:
     void drawRect(QPainter* painter, const QRectF& dirty) override;
     // The visible part, half transparent.
     [[nodiscard]] QPixmap dragImageWithAlpha();
-    // The menu for a click there; null while the grid plays or the window shows a sheet.
+    // The menu for a click there; null while the grid plays or the window shows a sheet. It goes
+    // before the view's grid.
     [[nodiscard]] std::unique_ptr<QMenu> menuForPoint(const QPointF& point);
 
 protected:
@@ -34,5 +35,6 @@ private:
     void dropNode(const std::shared_ptr<ZELSequenceProxy>& proxy);
     void dropSequence(const std::shared_ptr<ZELSequenceProxy>& proxy);
 
-    bool _highlight = false;  // a drop would be accepted
+    ContextualTarget _contextual;  // of the last right click
+    bool _highlight = false;       // a drop would be accepted
 };

@@ -1,8 +1,10 @@
 #include "app/views/ZELSequenceGridView.h"
 
 #include "app/tools/ZELToolsController.h"
+#include "app/views/CursorPictures.h"
 #include "platform/NotificationCenter.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <algorithm>
@@ -30,6 +32,17 @@ MouseButton ButtonOf(const QMouseEvent& event)
     if (event.button() == Qt::MiddleButton)
         return MouseButton::Middle;
     return event.button() == Qt::RightButton ? MouseButton::Right : MouseButton::Left;
+}
+
+// Drawn once for all grids of the program.
+CursorPictures& Pictures()
+{
+    static CursorPictures* pictures = nullptr;
+    if (!pictures) {
+        pictures = new CursorPictures;
+        qAddPostRoutine([] { delete std::exchange(pictures, nullptr); });
+    }
+    return *pictures;
 }
 
 }  // namespace
@@ -249,7 +262,18 @@ void ZELSequenceGridView::updateTrackingAreas()
         updateCursor(point);
 }
 
-void ZELSequenceGridView::updateCursor(const QPointF& /*point*/) {}
+// The tool's over the current frame's picture in the active grid, the arrow elsewhere.
+void ZELSequenceGridView::updateCursor(const QPointF& point)
+{
+    const Grid& grid = *_links.grid;
+    const bool overFrame = grid.isTheActiveGrid() && !grid.cineModeIsON() && theGridSequence() &&
+                           grid.geometryForFrame(0).shownRect().contains(point);
+    if (overFrame)
+        viewport()->setCursor(Pictures().cursorFor(
+            cursorUnderPoint(grid, _links.tools->currentTool(), point), devicePixelRatioF()));
+    else
+        viewport()->unsetCursor();
+}
 
 void ZELSequenceGridView::leaveEvent(QEvent* event)
 {

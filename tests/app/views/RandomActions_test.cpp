@@ -148,7 +148,9 @@ private:
         QList<QAction*> actions;
         if (menu) {
             for (QAction* action : menu->findChildren<QAction*>()) {
-                if (action->isEnabled() && !action->isSeparator() && !action->menu())
+                // No dialogs, and no file manager.
+                const bool quiet = !action->text().contains(QLatin1String("Other"));
+                if (quiet && action->isEnabled() && !action->isSeparator() && !action->menu())
                     actions.push_back(action);
             }
         }
