@@ -570,6 +570,112 @@
         <translatorcomment>menu of a cell, for screen readers</translatorcomment>
         <translation>Grid Contextual</translation>
     </message>
+    <message>
+        <source>ww_bw</source>
+        <translatorcomment>short for window width, before a box</translatorcomment>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>wc_bw</source>
+        <translatorcomment>short for window level</translatorcomment>
+        <translation>L</translation>
+    </message>
+    <message>
+        <source>brightness_bw</source>
+        <translatorcomment>short for brightness</translatorcomment>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>contrast_bw</source>
+        <translatorcomment>short for contrast</translatorcomment>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>Image window width</source>
+        <translation>Window width</translation>
+    </message>
+    <message>
+        <source>Image window level</source>
+        <translation>Window level</translation>
+    </message>
+    <message>
+        <source>Image brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Image contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Unnamed</source>
+        <translation>Unnamed</translation>
+    </message>
+    <message>
+        <source>Make Preset</source>
+        <translation>Make Preset</translation>
+    </message>
+    <message>
+        <source>Edit Presets</source>
+        <translation>Edit Presets</translation>
+    </message>
+    <message>
+        <source>Adjust...</source>
+        <translation>Adjust...</translation>
+    </message>
+    <message>
+        <source>Adjust</source>
+        <translation>Adjust</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Window Width</source>
+        <translation>Window Width</translation>
+    </message>
+    <message>
+        <source>Window Level</source>
+        <translation>Window Level</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>WWWLValuesExplain</source>
+        <translatorcomment>the limits</translatorcomment>
+        <translation>From %1 to %2</translation>
+    </message>
+    <message>
+        <source>BCValuesExplain</source>
+        <translatorcomment>the limits</translatorcomment>
+        <translation>From %1 to %2</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Window</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rows</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columns</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>

@@ -1,6 +1,6 @@
 #include "viewer/GridsPane.h"
 
-#include "app/tools/MouseTrackers.h"
+#include "app/views/AdjustSheet.h"
 #include "app/views/GridSetupSheet.h"
 #include "dicom_core/look/WindowText.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
@@ -13,23 +13,22 @@
 #include <utility>
 
 GridsPane::GridsPane(ZELDcmTree* tree, QWidget* parent)
-    : QWidget(parent),
-      _tree(tree),
-      _navigation(this),
-      _actions(this),
-      _zoomed(NotificationCenter::Default().AddObserver(
-          kNoteZoomChanged, [this](const Notification& note) { zoomDidChange(note); }))
+    : QWidget(parent), _tree(tree), _navigation(this), _actions(this)
 {
     _tools.changeToolTo(kToolWindow);
     auto* box = new QVBoxLayout(this);
     box->setContentsMargins({});
     switchToSequenceViewWithID(LayoutForOpening(*tree), false);
+    _boxes = new ViewerBoxes(this, &_actions);
+    _boxes->windowController().openAdjustColorsDialog = [this] { openAdjustColorsDialog(); };
+    connect(_boxes, &ViewerBoxes::done, this, [this] { view()->setFocus(); });
 }
 
 // Layouts go before what they name.
 GridsPane::~GridsPane()
 {
     _target = {};
+    delete _boxes;
     qDeleteAll(findChildren<GridLayoutView*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
@@ -65,6 +64,8 @@ void GridsPane::switchToSequenceViewWithID(int layout, bool /*keepOld*/)
 
 void GridsPane::tellOfTarget()
 {
+    if (_boxes)
+        _boxes->retarget();
     if (targetChanged && proxy())
         targetChanged(proxy()->theSequence());
 }
@@ -132,6 +133,15 @@ void GridsPane::openGridSetupDialog(Grid& grid)
     sheet->open();
 }
 
+void GridsPane::openAdjustColorsDialog()
+{
+    if (!BnCDialogController::canOpen(*this))
+        return;
+    auto* sheet = new AdjustSheet(this, &_actions, _layout);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->open();
+}
+
 bool GridsPane::showLocalizers() const { return _grids && _grids->localizers().showLocalizers(); }
 
 void GridsPane::revealFile(const std::string& path)
@@ -146,10 +156,4 @@ std::shared_ptr<ZELSequenceProxy> GridsPane::proxyOf(dk_SequenceBase* sequence)
     if (!proxy)
         proxy = std::make_shared<ZELSequenceProxy>(sequence);
     return proxy;
-}
-
-void GridsPane::zoomDidChange(const Notification& note)
-{
-    if (note.object == static_cast<GridSurface*>(view()))
-        _actions.setZoomTo(note.userInfo.value(QLatin1String(kKeyZoom)).toDouble(), grid(), 0);
 }

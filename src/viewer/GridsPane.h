@@ -3,7 +3,9 @@
 #pragma once
 #include "app/tools/ZELToolsController.h"
 #include "app/views/GridLayoutView.h"
+#include "app/views/ViewerBoxes.h"
 
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -36,6 +38,8 @@ public:
     [[nodiscard]] GridLayoutView* layoutView() const { return _layout; }
     [[nodiscard]] ViewerActions& actions() { return _actions; }
     [[nodiscard]] ZELToolsController& tools() { return _tools; }
+    [[nodiscard]] ViewerBoxes* boxes() const { return _boxes; }
+    void openAdjustColorsDialog();  // where there is an image to adjust
     // Goes to the grid where it stands, or brings it into the active one.
     void showSequence(dk_SequenceBase* sequence);
     [[nodiscard]] Caption caption() const;  // with a sequence of frames only
@@ -83,7 +87,6 @@ private:
     void stopCine(Grid& /*grid*/) override {}
     void playAllCines() override {}
     void stopAllCines() override {}
-    void zoomDidChange(const Notification& note);
     void tellOfTarget();
 
     ZELDcmTree* _tree;
@@ -92,8 +95,8 @@ private:
     ZELToolsController _tools;
     FrameNavigation _navigation;
     ViewerActions _actions;
-    NotificationCenter::Observation _zoomed;
     std::shared_ptr<MultiGridViewController> _grids;
     ObservableKeys::Watch _target;
     GridLayoutView* _layout = nullptr;  // a child
+    QPointer<ViewerBoxes> _boxes;       // of the window's tool bar, which owns them
 };

@@ -1,6 +1,7 @@
 #include "viewer/ViewerMenus.h"
 
-#include "app/grid/GridSetups.h"
+#include "app/tools/ContextualMenus.h"
+#include "app/views/MenuFromEntries.h"
 #include "dicom_core/opening/RecentDocuments.h"
 #include "platform/Words.h"
 #include "viewer/DocumentIcon.h"
@@ -11,6 +12,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <algorithm>
 
 namespace {
 
@@ -58,6 +60,7 @@ public:
     PaneMenu(QMenu* menu, GridsPane* pane) : fMenu(menu), fPane(pane) {}
 
     [[nodiscard]] QMenu* menu() const { return fMenu; }
+    [[nodiscard]] GridsPane* pane() const { return fPane; }
     template <typename Work>
     QAction* Add(const char* title, const QKeySequence& shortcut, Work work)
     {
@@ -108,6 +111,8 @@ void AddLooks(PaneMenu menu)
     menu.menu()->addSeparator();
     menu.Add("Original &Window", Qt::CTRL | Qt::SHIFT | Qt::Key_O,
              [](GridsPane& p) { p.actions().originalWWWLorBnC(); });
+    menu.Add("Ad&just…", Qt::CTRL | Qt::SHIFT | Qt::Key_W,
+             [](GridsPane& p) { p.openAdjustColorsDialog(); });
     menu.Add("Reset &All", Qt::CTRL | Qt::SHIFT | Qt::Key_R,
              [](GridsPane& p) { p.actions().resetAllChanges(); });
 }
@@ -136,16 +141,34 @@ void AddShown(PaneMenu menu)
         });
 }
 
-void AddGrids(PaneMenu menu)
+// One of the submenus that the right button shows too, made anew whenever it shows.
+void AddGridSubmenu(PaneMenu menu, const char* title)
 {
-    for (int setup = 0; setup < static_cast<int>(kGridShapes.size()); ++setup) {
-        const GridShape& shape = kGridShapes[static_cast<unsigned>(setup)];
-        const std::string title =
-            std::to_string(shape.rows) + " × " + std::to_string(shape.columns);
-        menu.AddMarked(
-            title.c_str(), {}, [setup](GridsPane& p) { return p.grid().gridSetupID() == setup; },
-            [setup](GridsPane& p) { p.grid().setGridSetupID(setup); });
-    }
+    const QString word = ZelWord(kWordsMenuItems, title);
+    QMenu* submenu = menu.menu()->addMenu(word);
+    GridsPane* pane = menu.pane();
+    QObject::connect(submenu, &QMenu::aboutToShow, submenu, [submenu, pane, word] {
+        const MenuEntry all = viewContextualGeneric(pane->grid(), *pane, pane->actions(), {});
+        const auto found = std::ranges::find(all.children, word, &MenuEntry::title);
+        if (found != all.children.end())
+            FillMenu(submenu, found->children);
+    });
+}
+
+void AddReferenceLines(PaneMenu menu)
+{
+    QAction* action =
+        menu.Add("Show &Reference Lines", Qt::CTRL | Qt::SHIFT | Qt::Key_L,
+                 [](GridsPane& p) { p.multiGridController().localizers().showHideLocalizers(); });
+    GridsPane* pane = menu.pane();
+    QObject::connect(menu.menu(), &QMenu::aboutToShow, action, [action, pane] {
+        const LocalizerSwitch::Item item = pane->multiGridController().localizers().menuItem();
+        action->setText(ZelWord(kWordsMenuItems, item.title));
+        action->setEnabled(item.enabled);
+    });
+    // Its key works whatever the menu last said.
+    QObject::connect(menu.menu(), &QMenu::aboutToHide, action,
+                     [action] { action->setEnabled(true); });
 }
 
 }  // namespace
@@ -155,7 +178,9 @@ void AddViewMenus(QMainWindow* window, GridsPane* pane)
     QMenu* view = window->menuBar()->addMenu(ViewerWord("&View"));
     AddLooks({view, pane});
     view->addSeparator();
-    AddGrids({view->addMenu(ViewerWord("Image &Grid")), pane});
+    AddGridSubmenu({view, pane}, "Series Grid");
+    AddGridSubmenu({view, pane}, "Image Grid");
+    AddReferenceLines({view, pane});
     AddShown({view, pane});
     view->addSeparator();
     PaneMenu sequences(view, pane);

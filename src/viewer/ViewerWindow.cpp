@@ -19,6 +19,7 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QTreeView>
 #include <filesystem>
 
@@ -89,6 +90,9 @@ void ViewerWindow::layOut()
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({kListWidth, kFirstSize.width() - kListWidth});
     setCentralWidget(splitter);
+    QToolBar* bar = addToolBar(ViewerWord("Tool Bar"));
+    bar->setMovable(false);
+    bar->addWidget(_pane->boxes());
 }
 
 void ViewerWindow::layOutList()
@@ -157,6 +161,7 @@ void ViewerWindow::closeEvent(QCloseEvent* event)
 void ViewerWindow::onPainted()
 {
     updateStatus();
+    _pane->boxes()->refresh();
     if (!_painted) {
         _painted = true;
         setWindowIcon(DocumentIcon(_document));  // late: reading icons takes longer than painting

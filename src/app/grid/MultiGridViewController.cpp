@@ -320,26 +320,3 @@ bool MultiGridViewController::currentInvert() const
 {
     return targetSequence() && targetSequence()->currentFrameIsInverted();
 }
-
-// ---- what plays ----
-
-bool MultiGridViewController::canPlaySomeCine() const
-{
-    return std::ranges::any_of(fGridControllerArray, [](const auto& grid) {
-        return grid->currZELSequence() && grid->currZELSequence()->canPlayCine();
-    });
-}
-
-bool MultiGridViewController::hasCinePlaying() const
-{
-    return std::ranges::any_of(fGridControllerArray,
-                               [](const auto& grid) { return grid->cineModeIsON(); });
-}
-
-bool MultiGridViewController::allCinesArePlaying() const
-{
-    return std::ranges::none_of(fGridControllerArray, [](const auto& grid) {
-        return !grid->cineModeIsON() && grid->currZELSequence() &&
-               grid->currZELSequence()->canPlayCine();
-    });
-}

@@ -69,12 +69,6 @@ public:
     [[nodiscard]] LocalizerSwitch& localizers() { return _localizers; }
     [[nodiscard]] const LocalizerSwitch& localizers() const { return _localizers; }
 
-    // ---- what plays ----
-
-    [[nodiscard]] bool canPlaySomeCine() const;
-    [[nodiscard]] bool hasCinePlaying() const;
-    [[nodiscard]] bool allCinesArePlaying() const;  // all that can
-
     void redrawAllViews();
 
 private:

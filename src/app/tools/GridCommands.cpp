@@ -1,6 +1,6 @@
 #include "app/tools/GridCommands.h"
 
-#include "app/tools/CineRules.h"
+#include "app/grid/CineRules.h"
 #include "app/tools/GridMenuItems.h"
 #include "app/tools/ViewSwitches.h"
 #include "dicom_core/opening/ZELDcmTree.h"
@@ -11,13 +11,13 @@
 namespace {
 
 using Target = GridTarget;
-using Proxy = ZELSequenceProxy;
+using P = ZELSequenceProxy;
 
-Proxy* ProxyOf(const Target& t) { return t.grid->currZELSequence().get(); }
+P* ProxyOf(const Target& t) { return t.grid->currZELSequence().get(); }
 
 // What the sequence answers; no without one.
 template <auto Question>
-bool Sequence(const Target& t)
+bool Is(const Target& t)
 {
     return ProxyOf(t) && (ProxyOf(t)->*Question)();
 }
@@ -63,6 +63,10 @@ void SwitchLayout(const Target& t, bool)
 }
 
 bool IsImageGrid(const Target& t) { return GridShapeOf(t.tag - kFirstImageGridTag) != nullptr; }
+bool IsPresentImageGrid(const Target& t)
+{
+    return t.grid->gridSetupID() == t.tag - kFirstImageGridTag;
+}
 bool HasCustomGrid(const Target& t) { return t.grid->gridSetupID() == kCustomGridSetup; }
 void SetImageGrid(const Target& t, bool) { t.grid->setGridSetupID(t.tag - kFirstImageGridTag); }
 void OpenGridSetup(const Target& t, bool) { t.host->openGridSetupDialog(*t.grid); }
@@ -110,12 +114,12 @@ void Reveal(const Target& t, bool) { t.grid->revealFileForFrame(t.frame); }
 
 bool ShowsMeasurements(const Target& t)
 {
-    return Sequence<&Proxy::viewShowsMeasurements>(t) && Sequence<&Proxy::hasMeasurements>(t);
+    return Is<&P::viewShowsMeasurements>(t) && Is<&P::hasMeasurements>(t);
 }
 
 bool ShowsUSRegions(const Target& t)
 {
-    return Sequence<&Proxy::hasUSRegions>(t) && prefs_Get_ShowsUSRegions();
+    return Is<&P::hasUSRegions>(t) && prefs_Get_ShowsUSRegions();
 }
 
 void Demographics(const Target& t, bool option)
@@ -210,16 +214,39 @@ enum Need : unsigned {
     kShape = 8,   // a measurement, and its frame
 };
 
+using Test = bool (*)(const Target&);
+using Act = void (*)(const Target&, bool option);
+
 struct Row {
     GridCommand command;
     const char* title;
     const char* titleOn;  // null: the same, with a check mark
-    bool (*isOn)(const Target&);
-    bool (*rule)(const Target&);
+    Test isOn, rule;
     unsigned needs;
-    void (*perform)(const Target&, bool option);
+    Act perform;
     const char* shortcut = nullptr;
 };
+
+// A command with one title,
+constexpr Row Plain(GridCommand command, const char* title, Test rule, unsigned needs, Act perform,
+                    const char* shortcut = nullptr)
+{
+    return {command, title, nullptr, Never, rule, needs, perform, shortcut};
+}
+
+// one with a check mark while it is on,
+constexpr Row Checked(GridCommand command, const char* title, Test isOn, Test rule, unsigned needs,
+                      Act perform)
+{
+    return {command, title, nullptr, isOn, rule, needs, perform};
+}
+
+// and one with another title then.
+constexpr Row Turned(GridCommand command, const char* title, const char* titleOn, Test isOn,
+                     Test rule, unsigned needs, Act perform)
+{
+    return {command, title, titleOn, isOn, rule, needs, perform};
+}
 
 using C = GridCommand;
 using V = ViewerActions;
@@ -228,46 +255,47 @@ using K = CKAdornedGraphic;
 
 // clang-format off
 constexpr Row kRows[] = {
-    {C::SwitchLayout, nullptr, nullptr, IsPresentLayout, LayoutIsOffered, kNothing, SwitchLayout},
-    {C::SetImageGrid, nullptr, nullptr, Never, IsImageGrid, kStill, SetImageGrid},
-    {C::OpenGridSetup, "Other...", nullptr, HasCustomGrid, Always, kStill, OpenGridSetup},
-    {C::PreviousSequence, "Previous Sequence", nullptr, Never, HasManyGoodSequences, kNothing, OnGrid<&V::gotoPreviousSequence>, "Ctrl+Left"},
-    {C::NextSequence, "Next Sequence", nullptr, Never, HasManyGoodSequences, kNothing, OnGrid<&V::gotoNextSequence>, "Ctrl+Right"},
-    {C::SwitchSequenceMark, "Mark Sequence", "Unmark Sequence", Sequence<&Proxy::userMarked>, Always, kNothing, OnGrid<&V::switchSequenceMark>},
-    {C::FirstFrame, "First Frame", nullptr, Never, Sequence<&Proxy::hasPrevFrame>, kStill, Go<FrameStep::First>, "Home"},
-    {C::PreviousFrame, "Previous Frame", nullptr, Never, Sequence<&Proxy::hasPrevFrame>, kStill, Go<FrameStep::Previous>},
-    {C::NextFrame, "Next Frame", nullptr, Never, Sequence<&Proxy::hasNextFrame>, kStill, Go<FrameStep::Next>},
-    {C::LastFrame, "Last Frame", nullptr, Never, Sequence<&Proxy::hasNextFrame>, kStill, Go<FrameStep::Last>, "End"},
-    {C::Enlarge, "Enlarge", nullptr, Never, Sequence<&Proxy::hasNextZoom>, kStill | kFrame, OnFrame<&V::nextZoomValue>},
-    {C::Reduce, "Reduce", nullptr, Never, Sequence<&Proxy::hasPrevZoom>, kStill | kFrame, OnFrame<&V::prevZoomValue>},
-    {C::NormalSize, "Normal Size", nullptr, Never, Always, kStill | kFrame, OnFrame<&V::normalZoomValue>},
-    {C::FitInWindow, "Fit in Window", nullptr, Never, Always, kStill | kFrame, OnFrame<&V::autoFitView>},
-    {C::FlipHorizontal, "Flip Horizontal", nullptr, Never, Always, kStill | kFrame, Flip<false>},
-    {C::FlipVertical, "Flip Vertical", nullptr, Never, Always, kStill | kFrame, Flip<true>},
-    {C::RotateLeft, "Rotate Left", nullptr, Never, Always, kStill | kFrame, Rotate<true>},
-    {C::RotateRight, "Rotate Right", nullptr, Never, Always, kStill | kFrame, Rotate<false>},
-    {C::Invert, "Invert", nullptr, Never, Always, kStill | kFrame, OnFrame<&V::invertColorsForView>},
-    {C::SwitchDemographics, "Show Demographics", "Hide Demographics", Sequence<&Proxy::viewShowsDemographics>, Always, kStill, Demographics},
-    {C::SwitchScale, "Show Scale", "Hide Scale", Sequence<&Proxy::viewShowsScale>, Sequence<&Proxy::hasScale>, kStill, Scale},
-    {C::SwitchOverlays, "Show Overlays", "Hide Overlays", Sequence<&Proxy::viewShowsDicomOverlays>, Sequence<&Proxy::hasDicomOverlays>, kStill, Overlays},
-    {C::SwitchMeasurements, "Show Measurements", "Hide Measurements", ShowsMeasurements, Sequence<&Proxy::hasMeasurements>, kStill, Measurements},
-    {C::SwitchUSRegions, "Show US Regions", "Hide US Regions", ShowsUSRegions, Sequence<&Proxy::hasUSRegions>, kStill, USRegions},
-    {C::PlayCine, "Play Cine", nullptr, Never, Sequence<&Proxy::canPlayCine>, kStill | kFrame | kPlayer, Play, "Space"},
-    {C::StopCine, "Stop Cine", nullptr, Never, IsPlaying, kPlayer, Stop, "Space"},
-    {C::PlayAllCines, "Play All", nullptr, Never, CanPlayAll, kPlayer, PlayAll},
-    {C::StopAllCines, "Stop All", nullptr, Never, CanStopAll, kPlayer, StopAll},
-    {C::RevealFile, "Reveal in Finder", nullptr, Never, Always, kFrame, Reveal},
-    {C::SwitchStroke, "Stroke On", "Stroke Off", HasStroke, CanSetStroke, kShape, Stroke},
-    {C::SwitchFill, "Fill On", "Fill Off", HasFill, CanSetFill, kShape, Fill},
-    {C::SwitchLabel, "Show Label", "Hide Label", HasLabel, CanSetLabel, kShape, Turn<&K::_descriptionON>},
-    {C::SwitchShadow, "Shadow On", "Shadow Off", HasShadow, Always, kShape, Turn<&K::_shadowON>},
-    {C::BringToFront, "Bring to Front", nullptr, Never, CanRise, kShape, OnShape<&G::bringMeasurementToFrontInFrame>},
-    {C::MoveForward, "Move Forward", nullptr, Never, CanRise, kShape, OnShape<&G::bringMeasurementForwardInFrame>},
-    {C::MoveBackwards, "Move Backwards", nullptr, Never, CanSink, kShape, OnShape<&G::sendMeasurementBackwardsInFrame>},
-    {C::SendToBack, "Send to Back", nullptr, Never, CanSink, kShape, OnShape<&G::sendMeasurementToBackInFrame>},
-    {C::PropagateMeasurement, "Propagate Measurement", nullptr, Never, CanPropagate, kShape, OnShape<&G::propagateMeasurement>},
-    {C::DeleteMeasurement, "Delete Measurement", nullptr, Never, Always, kShape, OnShape<&G::deleteMeasurementInFrame>},
-    {C::DeleteAllMeasurements, "Delete All Measurements", nullptr, Never, Always, kShape, DeleteAll},
+    // command, titles, whether it is on, its rule, its needs, what it does, key
+    Checked(C::SwitchLayout, nullptr, IsPresentLayout, LayoutIsOffered, kNothing, SwitchLayout),
+    Checked(C::SetImageGrid, nullptr, IsPresentImageGrid, IsImageGrid, kStill, SetImageGrid),
+    Checked(C::OpenGridSetup, "Other...", HasCustomGrid, Always, kStill, OpenGridSetup),
+    Plain(C::PreviousSequence, "Previous Sequence", HasManyGoodSequences, kNothing, OnGrid<&V::gotoPreviousSequence>, "Ctrl+Left"),
+    Plain(C::NextSequence, "Next Sequence", HasManyGoodSequences, kNothing, OnGrid<&V::gotoNextSequence>, "Ctrl+Right"),
+    Turned(C::SwitchSequenceMark, "Mark Sequence", "Unmark Sequence", Is<&P::userMarked>, Always, kNothing, OnGrid<&V::switchSequenceMark>),
+    Plain(C::FirstFrame, "First Frame", Is<&P::hasPrevFrame>, kStill, Go<FrameStep::First>, "Home"),
+    Plain(C::PreviousFrame, "Previous Frame", Is<&P::hasPrevFrame>, kStill, Go<FrameStep::Previous>),
+    Plain(C::NextFrame, "Next Frame", Is<&P::hasNextFrame>, kStill, Go<FrameStep::Next>),
+    Plain(C::LastFrame, "Last Frame", Is<&P::hasNextFrame>, kStill, Go<FrameStep::Last>, "End"),
+    Plain(C::Enlarge, "Enlarge", Is<&P::hasNextZoom>, kStill | kFrame, OnFrame<&V::nextZoomValue>),
+    Plain(C::Reduce, "Reduce", Is<&P::hasPrevZoom>, kStill | kFrame, OnFrame<&V::prevZoomValue>),
+    Plain(C::NormalSize, "Normal Size", Always, kStill | kFrame, OnFrame<&V::normalZoomValue>),
+    Plain(C::FitInWindow, "Fit in Window", Always, kStill | kFrame, OnFrame<&V::autoFitView>),
+    Plain(C::FlipHorizontal, "Flip Horizontal", Always, kStill | kFrame, Flip<false>),
+    Plain(C::FlipVertical, "Flip Vertical", Always, kStill | kFrame, Flip<true>),
+    Plain(C::RotateLeft, "Rotate Left", Always, kStill | kFrame, Rotate<true>),
+    Plain(C::RotateRight, "Rotate Right", Always, kStill | kFrame, Rotate<false>),
+    Plain(C::Invert, "Invert", Always, kStill | kFrame, OnFrame<&V::invertColorsForView>),
+    Turned(C::SwitchDemographics, "Show Demographics", "Hide Demographics", Is<&P::viewShowsDemographics>, Always, kStill, Demographics),
+    Turned(C::SwitchScale, "Show Scale", "Hide Scale", Is<&P::viewShowsScale>, Is<&P::hasScale>, kStill, Scale),
+    Turned(C::SwitchOverlays, "Show Overlays", "Hide Overlays", Is<&P::viewShowsDicomOverlays>, Is<&P::hasDicomOverlays>, kStill, Overlays),
+    Turned(C::SwitchMeasurements, "Show Measurements", "Hide Measurements", ShowsMeasurements, Is<&P::hasMeasurements>, kStill, Measurements),
+    Turned(C::SwitchUSRegions, "Show US Regions", "Hide US Regions", ShowsUSRegions, Is<&P::hasUSRegions>, kStill, USRegions),
+    Plain(C::PlayCine, "Play Cine", Is<&P::canPlayCine>, kStill | kFrame | kPlayer, Play, "Space"),
+    Plain(C::StopCine, "Stop Cine", IsPlaying, kPlayer, Stop, "Space"),
+    Plain(C::PlayAllCines, "Play All", CanPlayAll, kPlayer, PlayAll),
+    Plain(C::StopAllCines, "Stop All", CanStopAll, kPlayer, StopAll),
+    Plain(C::RevealFile, "Reveal in Finder", Always, kFrame, Reveal),
+    Turned(C::SwitchStroke, "Stroke On", "Stroke Off", HasStroke, CanSetStroke, kShape, Stroke),
+    Turned(C::SwitchFill, "Fill On", "Fill Off", HasFill, CanSetFill, kShape, Fill),
+    Turned(C::SwitchLabel, "Show Label", "Hide Label", HasLabel, CanSetLabel, kShape, Turn<&K::_descriptionON>),
+    Turned(C::SwitchShadow, "Shadow On", "Shadow Off", HasShadow, Always, kShape, Turn<&K::_shadowON>),
+    Plain(C::BringToFront, "Bring to Front", CanRise, kShape, OnShape<&G::bringMeasurementToFrontInFrame>),
+    Plain(C::MoveForward, "Move Forward", CanRise, kShape, OnShape<&G::bringMeasurementForwardInFrame>),
+    Plain(C::MoveBackwards, "Move Backwards", CanSink, kShape, OnShape<&G::sendMeasurementBackwardsInFrame>),
+    Plain(C::SendToBack, "Send to Back", CanSink, kShape, OnShape<&G::sendMeasurementToBackInFrame>),
+    Plain(C::PropagateMeasurement, "Propagate Measurement", CanPropagate, kShape, OnShape<&G::propagateMeasurement>),
+    Plain(C::DeleteMeasurement, "Delete Measurement", Always, kShape, OnShape<&G::deleteMeasurementInFrame>),
+    Plain(C::DeleteAllMeasurements, "Delete All Measurements", Always, kShape, DeleteAll),
 };
 // clang-format on
 

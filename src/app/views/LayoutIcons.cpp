@@ -10,8 +10,7 @@
 
 namespace {
 
-constexpr double kMargin = 1.0 / 16;  // of the icon's shorter side, as the next
-constexpr double kGap = 1.0 / 16;
+constexpr double kGap = 1.0 / 16;  // of the icon's shorter side
 constexpr double kFillAlpha = 0.25;
 
 // Part `i` of `count` equal ones along one side.
@@ -24,7 +23,7 @@ QRectF Slice(const QRectF& area, bool stacked, int i, int count, double gap)
                    : QRectF(area.left() + from, area.top(), length, area.height());
 }
 
-// On whole pixels of the device, with lines one of them wide at least.
+// On whole pixels of the device; the line's width counts them.
 void PaintCell(QPainter* painter, const QRectF& cell, const QColor& color, double line)
 {
     const QRectF outer(QPointF(std::round(cell.left()), std::round(cell.top())),
@@ -83,12 +82,12 @@ private:
     void paintPixels(QPainter* painter, const QSizeF& size, const QColor& color,
                      double pixelRatio) const
     {
+        // Not a point is given away to margins: four rows of 16 points have three each.
         const double side = std::min(size.width(), size.height());
-        const double margin = std::round(side * kMargin);
         const double gap = std::max(1.0, std::round(side * kGap));
-        const QRectF area = QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin);
-        for (const QRectF& cell : LayoutCells(fLayout, area, gap))
-            PaintCell(painter, cell, color, std::max(1.0, std::round(pixelRatio)));
+        const double line = std::max(1.0, std::floor(pixelRatio));
+        for (const QRectF& cell : LayoutCells(fLayout, QRectF(QPointF(), size), gap))
+            PaintCell(painter, cell, color, line);
     }
 
     const GridLayout& fLayout;  // of the table

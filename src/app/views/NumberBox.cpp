@@ -44,8 +44,10 @@ void NumberBox::refresh()
     _field->setReadOnly(!mayEdit);
     if (_button)
         _button->setEnabled(mayEdit);
-    if (!_typing)
-        _field->setText(_controller.text());
+    if (_typing)
+        return;
+    if (const QString text = _controller.text(); text != _field->text())
+        _field->setText(text);
 }
 
 bool NumberBox::endEditing()

@@ -43,6 +43,7 @@ ViewerBoxes::ViewerBoxes(GridHost* host, ViewerActions* actions, QWidget* parent
                         [this](const QString& typed) { return _frame.textShouldEndEditing(typed); },
                         [this](const QString& typed) { _frame.dothething(typed); }, nullptr},
                        kFrameColumns);
+    row->addStretch(1);
     refreshWindow();
 }
 
@@ -85,6 +86,12 @@ void ViewerBoxes::refreshWindow()
         label->setToolTip(tip);
         box->refresh();
     }
+}
+
+void ViewerBoxes::refresh()
+{
+    for (NumberBox* box : {_zoomBox, _brightnessBox, _contrastBox, _frameBox})
+        box->refresh();
 }
 
 void ViewerBoxes::retarget()

@@ -16,6 +16,7 @@ public:
     ViewerBoxes(GridHost* host, ViewerActions* actions, QWidget* parent = nullptr);
 
     void retarget();  // the active grid has changed without a word
+    void refresh();   // a frame's window and fitted zoom are known once it has been painted
     [[nodiscard]] NumberBox* zoomBox() const { return _zoomBox; }
     [[nodiscard]] NumberBox* brightnessBox() const { return _brightnessBox; }
     [[nodiscard]] NumberBox* contrastBox() const { return _contrastBox; }

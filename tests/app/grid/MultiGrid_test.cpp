@@ -1,4 +1,5 @@
 // Layouts of grids: which grid shows what, which is active, and what an exchange leaves behind.
+#include "app/grid/CineRules.h"
 #include "app/grid/GridFixture.h"
 #include "app/grid/MultiGridViewController.h"
 
@@ -257,14 +258,14 @@ TEST(MultiGrid, knows_what_plays)
 {
     const Quiet quiet;
     Layouts window(653);
-    EXPECT_EQ(window.grids->canPlaySomeCine(), window.Proxy(1)->canPlayCine());
-    EXPECT_FALSE(window.grids->hasCinePlaying());
-    EXPECT_FALSE(window.grids->allCinesArePlaying());
+    EXPECT_EQ(CanPlaySomeCine(window.host), window.Proxy(1)->canPlayCine());
+    EXPECT_FALSE(HasCinePlaying(window.host));
+    EXPECT_FALSE(AllCinesArePlaying(window.host));
     window.grids->gridWithNumber(1)->setCineModeIsON(true);
-    EXPECT_TRUE(window.grids->hasCinePlaying());
-    EXPECT_FALSE(window.grids->allCinesArePlaying());
+    EXPECT_TRUE(HasCinePlaying(window.host));
+    EXPECT_FALSE(AllCinesArePlaying(window.host));
     window.grids->gridWithNumber(2)->setCineModeIsON(true);
-    EXPECT_TRUE(window.grids->allCinesArePlaying());
+    EXPECT_TRUE(AllCinesArePlaying(window.host));
 }
 
 TEST(MultiGrid, fits_rows_to_the_form_of_its_view)
