@@ -18,15 +18,24 @@ void GridMouse::press(const GridPress& press)
     if (fGrid->view())
         fGrid->view()->stopEditing();
     const auto cell = fGrid->viewport().photoIndexForPoint(press.point);
-    if (fGrid->cineModeIsON() || !cell || !fGrid->currZELSequence())
+    if (fGrid->cineModeIsON())
         return;
-    fPressedCell = *cell;
-    if (press.button == MouseButton::Right)
-        fRightWaits = true;
-    else if (press.button == MouseButton::Middle)
-        fTracker = NewTrackerForTool(kToolPan, *fGrid, *cell, press.point);
+    fPressedCell = cell.value_or(-1);
+    fRightWaits = press.button == MouseButton::Right;  // the menu comes beside the cells too
+    if (fRightWaits || !cell || !fGrid->currZELSequence())
+        return;
+    if (press.button == MouseButton::Middle)
+        trackElsewhere(kToolPan);
     else
         pressLeft(press, *cell);
+}
+
+// The buttons that are no tool act where they are pressed, which becomes the current cell.
+void GridMouse::trackElsewhere(std::int32_t tool)
+{
+    if (fPressedCell + 1 != fGrid->currZELSequence()->currentFrame())
+        fGrid->U_SendNotificationForNewFrame(fPressedCell + 1, CellChangeType::Click);
+    fTracker = NewTrackerForTool(tool, *fGrid, fPressedCell, fPress.point);
 }
 
 // A click in another cell only moves there, and so does one that came with the keyboard's focus.
@@ -70,7 +79,8 @@ void GridMouse::drag(const TrackerEvent& event)
     const QPointF moved = event.point - fPress.point;
     if (fRightWaits && (std::abs(moved.x()) > kRightDrag || std::abs(moved.y()) > kRightDrag)) {
         fRightWaits = false;
-        fTracker = NewTrackerForTool(kToolWindow, *fGrid, fPressedCell, fPress.point);
+        if (fPressedCell >= 0 && fGrid->currZELSequence())
+            trackElsewhere(kToolWindow);
     }
     if (fTracker)
         fTracker->track(event);

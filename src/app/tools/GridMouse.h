@@ -37,6 +37,7 @@ public:
     [[nodiscard]] bool potentialDragDrop() const { return fPotentialDragDrop; }
 
 private:
+    void trackElsewhere(std::int32_t tool);
     void pressLeft(const GridPress& press, int cell);
     [[nodiscard]] bool tookDoubleClick(const GridPress& press, int cell);
 

@@ -80,6 +80,24 @@ TEST(GridLayoutView, a_click_makes_its_grid_the_active_one_first)
     EXPECT_EQ(window.Grids().activeSequenceGridController(), &window.At(2)) << "what plays";
 }
 
+TEST(GridLayoutView, other_buttons_act_in_the_cell_where_they_are_pressed)
+{
+    const Quiet quiet;
+    LayoutWindow window(653);
+    window.At(2).setGridSetupID(3);
+    const double right = window.View(2).viewport()->width() * 0.75;
+    window.Drag(2, {right, 40}, {right + 30, 40}, Qt::RightButton);
+    EXPECT_EQ(window.At(2).resolved(0), 2);
+    EXPECT_EQ(window.Record(2, 1).voiWidth, 400);
+    EXPECT_NE(window.Record(2, 2).voiWidth, 400);
+    window.At(2).currZELSequence()->setCurrentFrame(1);
+    window.At(2).currZELSequence()->changeZoomForFrame(2, 800);
+    window.Drag(2, {right, 40}, {right + 30, 40}, Qt::MiddleButton);
+    EXPECT_EQ(window.At(2).resolved(0), 2);
+    EXPECT_EQ(window.Record(2, 1).scroll.x, 0);
+    EXPECT_GT(window.Record(2, 2).scroll.x, 0);
+}
+
 TEST(GridLayoutView, two_windows_are_none_of_each_others_business)
 {
     const Quiet quiet;

@@ -56,6 +56,16 @@ public:
         }
     }
 
+    // The window as it was opened, so that what it takes can be compared.
+    void Rest()
+    {
+        fWindow.window.resize(480, 400);
+        fWindow.Open(664);
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+
 private:
     int Below(int bound) { return static_cast<int>(fRandom() % static_cast<unsigned>(bound)); }
     std::size_t Index(int bound) { return static_cast<std::size_t>(Below(bound)); }
@@ -185,12 +195,15 @@ TEST(RandomActions, leave_the_program_standing)
             QCoreApplication::processEvents();
         if (i % 50 == 0)
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        if (i == kSettled)
+        if (i == kSettled) {
+            user.Rest();
             settled = ResidentMiB();
+        }
         ASSERT_GE(window.Grids().numGrids(), 1);
         ASSERT_NE(window.host.activeSequenceGridController(), nullptr) << i;
     }
     if (settled > 0 && count > kSettled) {
+        user.Rest();
         const double last = ResidentMiB();
         std::printf("resident: %.1f MiB after %d actions, %.1f after %d\n", settled, kSettled, last,
                     count);
