@@ -80,6 +80,44 @@ TEST(GridLayoutView, a_click_makes_its_grid_the_active_one_first)
     EXPECT_EQ(window.Grids().activeSequenceGridController(), &window.At(2)) << "what plays";
 }
 
+TEST(GridLayoutView, each_tool_changes_the_picture_of_its_grid_alone)
+{
+    const Quiet quiet;
+    struct Row {
+        std::int32_t tool;
+        bool changes;
+        bool (*done)(const zel_TransformRec& record);
+    };
+    const Row rows[] = {
+        {kToolWindow, true, [](const auto& r) { return r.voiWidth > 4000 && r.voiLevel > 3000; }},
+        {kToolPan, true, [](const auto& r) { return r.scroll.x > 0; }},
+        {kToolZoom, true, [](const auto& r) { return r.zoom < 12 * kZoomOne; }},
+        {kToolSelection, false, [](const auto& r) { return r.zoom == 12 * kZoomOne; }},
+        {kToolLine, false, [](const auto& r) { return r.zoom == 12 * kZoomOne; }},
+    };
+    for (const GridLayout& layout : {*ControllerWithID(651), *ControllerWithID(664)}) {
+        for (const Row& row : rows) {
+            LayoutWindow window(layout.id);
+            window.At(1).setGridSetupID(0);
+            window.At(1).currZELSequence()->changeZoomForFrame(1, 1200);
+            window.At(1).currZELSequence()->changeVOIForAllFrames(true, 4000, 3000);
+            window.host.tools.changeToolTo(row.tool);
+            window.Click(1, {60, 60});
+            const auto shown = [&](int number) {
+                return window.View(number).viewport()->grab().toImage();
+            };
+            const int other = layout.grids() > 1 ? 2 : 1;
+            const QImage before = shown(1), beside = shown(other);
+            window.Drag(1, {60, 60}, {80, 40});
+            QCoreApplication::processEvents();
+            EXPECT_TRUE(row.done(window.Record(1))) << row.tool;
+            EXPECT_EQ(shown(1) != before, row.changes) << row.tool;
+            if (other == 2)
+                EXPECT_EQ(shown(other), beside) << row.tool;
+        }
+    }
+}
+
 TEST(GridLayoutView, other_buttons_act_in_the_cell_where_they_are_pressed)
 {
     const Quiet quiet;

@@ -3,6 +3,7 @@
 #include "app/grid/GridFixture.h"
 #include "app/tools/MouseTrackers.h"
 #include "app/tools/ZELToolsController.h"
+#include "app/tools/ZELZoomTextBoxController.h"
 #include "app/views/GridLayoutView.h"
 
 #include <QApplication>
@@ -119,5 +120,6 @@ struct LayoutWindow {
     LayoutHost host;
     FrameNavigation navigation{&host};
     ViewerActions actions{&host};
+    ZELZoomTextBoxController zoom{&host, &actions, [] {}};  // takes the results of zoom drags
     QMainWindow window;
 };

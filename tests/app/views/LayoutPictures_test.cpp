@@ -3,6 +3,7 @@
 #include "app/views/LayoutFixture.h"
 
 #include <QDir>
+#include <QMenu>
 #include <QPalette>
 
 namespace {
@@ -59,6 +60,44 @@ TEST(LayoutPictures, of_every_layout_in_light_and_dark)
             Keep(picture, QStringLiteral("layout_%1_%2")
                               .arg(layout.id)
                               .arg(dark ? QStringLiteral("dark") : QStringLiteral("light")));
+        }
+    }
+    QApplication::setPalette(before);
+}
+
+TEST(LayoutPictures, of_every_contextual_menu_in_light_and_dark)
+{
+    const Quiet quiet;
+    const QPalette before = QApplication::palette();
+    for (const bool dark : {false, true}) {
+        QApplication::setPalette(dark ? DarkPalette() : before);
+        LayoutWindow window(653, {{.frames = 12}, {.modality = "US", .frames = 3, .color = true}},
+                            kWindow);
+        window.At(1).setGridSetupID(0);
+        window.At(1).currZELSequence()->setViewShowsMeasurements(true);
+        window.At(1).currZELSequence()->addNewMeasurement(NewBox({10, 10, 20, 20}), true);
+        const QPointF on = window.At(1).framePointToViewPoint({20, 20}, 1);
+        struct Row {
+            const char* name;
+            int grid;
+            QPointF at;
+        };
+        for (const Row& row :
+             {Row{"measurement", 1, on}, Row{"gray", 1, {5, 5}}, Row{"color", 2, {60, 60}}}) {
+            const std::unique_ptr<QMenu> menu = window.View(row.grid).menuForPoint(row.at);
+            ASSERT_TRUE(menu) << row.name;
+            QList<QMenu*> all = menu->findChildren<QMenu*>();
+            all.push_front(menu.get());
+            for (int i = 0; i < all.size(); ++i) {
+                all[i]->ensurePolished();
+                all[i]->resize(all[i]->sizeHint());
+                const QImage picture = all[i]->grab().toImage();
+                EXPECT_GT(picture.height(), 20);
+                Keep(picture, QStringLiteral("menu_%1_%2_%3")
+                                  .arg(QLatin1String(row.name))
+                                  .arg(i)
+                                  .arg(dark ? QStringLiteral("dark") : QStringLiteral("light")));
+            }
         }
     }
     QApplication::setPalette(before);
