@@ -30,6 +30,7 @@ void AddCommand(QMenu* menu, const MenuEntry& entry)
         action->setIcon(MenuIcon(entry.image));
         action->setIconVisibleInMenu(true);
     }
+    action->setVisible(!entry.title.isEmpty());  // one that only holds a place
     action->setData(entry.tag);
     action->setEnabled(entry.enabled);
     action->setCheckable(entry.checked);
