@@ -571,6 +571,11 @@
         <translation>Grid Contextual</translation>
     </message>
     <message>
+        <source>Table #</source>
+        <translatorcomment>%1: number of a look-up table of the file</translatorcomment>
+        <translation>Table %1</translation>
+    </message>
+    <message>
         <source>ww_bw</source>
         <translatorcomment>short for window width, before a box</translatorcomment>
         <translation>W</translation>

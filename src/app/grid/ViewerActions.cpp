@@ -198,6 +198,16 @@ void ViewerActions::U_ChangeBrightnessTo(double brightnessOrWidth, double contra
         fHost->refreshToolbarItems();
 }
 
+void ViewerActions::showVOITable(const std::shared_ptr<const zelVOITable>& table)
+{
+    ZELSequenceProxy* proxy = activeSequence();
+    if (!proxy || !table || !proxy->isDICOMGray() || !fHost->toolScope().isKnown())
+        return;
+    proxy->changeVOITableForAllFrames(forAll(), table);
+    dropPictures(*target(), 0);
+    redrawTarget();
+}
+
 void ViewerActions::voiDidChange(const Notification& note)
 {
     if (gridOf(note.object))

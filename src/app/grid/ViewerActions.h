@@ -4,6 +4,7 @@
 #pragma once
 #include "app/grid/GridHost.h"
 #include "app/grid/GridNotifications.h"
+#include "dicom_core/look/zelVOIFunction.h"
 #include "platform/NotificationCenter.h"
 
 // What a reset may undo; the numbers are those of the frame table, and its own.
@@ -34,6 +35,7 @@ public:
     // ---- the active grid ----
 
     void U_ChangeBrightnessTo(double brightnessOrWidth, double contrastOrLevel);
+    void showVOITable(const std::shared_ptr<const zelVOITable>& table);  // of the file
     void originalWWWLorBnC();
     void setCurrentClutID(std::int32_t table);
     void resetColors();

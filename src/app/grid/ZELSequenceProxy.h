@@ -90,6 +90,7 @@ public:
     void setCurrentWLContrast(std::int32_t value);
     void changeBnCForAllFrames(bool all, std::int32_t brightness, std::int32_t contrast);
     void changeVOIForAllFrames(bool all, float width, float level);
+    void changeVOITableForAllFrames(bool all, const std::shared_ptr<const zelVOITable>& table);
 
     // ---- colours and turns ----
 

@@ -234,6 +234,13 @@ void ZELSequenceProxy::changeVOIForAllFrames(bool all, float width, float level)
         Announce(kWindowKeys, [&] { table()->SetFrameVOI(Selector(all), width, level); });
 }
 
+void ZELSequenceProxy::changeVOITableForAllFrames(bool all,
+                                                  const std::shared_ptr<const zelVOITable>& voi)
+{
+    if (table())
+        Announce(kWindowKeys, [&] { table()->SetFrameVOITable(Selector(all), voi); });
+}
+
 // ---- colours and turns ----
 
 std::int32_t ZELSequenceProxy::currentClutID() const

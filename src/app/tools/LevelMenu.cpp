@@ -1,10 +1,8 @@
 #include "app/tools/LevelMenu.h"
 
 #include "dicom_core/tree/dk_SequenceBase.h"
-#include "dicom_core/values/FrameGroups.h"
 #include "platform/Words.h"
 
-#include "qpix/zelImageSource.h"
 #include <algorithm>
 #include <cmath>
 
@@ -15,12 +13,12 @@ constexpr int kItemsBeforeUser = 2;  // the empty one and the separator
 // What of a frame decides marks and what can be chosen.
 struct Window {
     std::int32_t width, level;  // rounded half away from zero
-    bool atOriginals;
+    bool atOriginals, isTable;
     std::int32_t leastWidth, mostWidth, leastLevel, mostLevel;
 
     [[nodiscard]] bool Is(double otherWidth, double otherLevel) const
     {
-        return static_cast<std::int32_t>(otherWidth) == width &&
+        return !isTable && static_cast<std::int32_t>(otherWidth) == width &&
                static_cast<std::int32_t>(otherLevel) == level;
     }
     [[nodiscard]] bool Allows(double otherWidth, double otherLevel) const
@@ -46,10 +44,14 @@ const zel_TransformRec* RecordOf(const ZELSequenceProxy& proxy, std::int32_t fra
 Window WindowOf(const ZELSequenceProxy& proxy, std::int32_t frame)
 {
     const zel_TransformRec* record = RecordOf(proxy, frame);
-    return {record ? Rounded(record->voiWidth) : 0,  record ? Rounded(record->voiLevel) : 0,
-            record && record->IsVOIAtOriginals(),    proxy.theMinWWBrightnessForFrame(frame),
-            proxy.theMaxWWBrightnessForFrame(frame), proxy.theMinWLContrastForFrame(frame),
-            proxy.theMaxWLContrastForFrame(frame)};
+    return {.width = record ? Rounded(record->voiWidth) : 0,
+            .level = record ? Rounded(record->voiLevel) : 0,
+            .atOriginals = record && record->IsVOIAtOriginals(),
+            .isTable = record && record->voiTable,
+            .leastWidth = proxy.theMinWWBrightnessForFrame(frame),
+            .mostWidth = proxy.theMaxWWBrightnessForFrame(frame),
+            .leastLevel = proxy.theMinWLContrastForFrame(frame),
+            .mostLevel = proxy.theMaxWLContrastForFrame(frame)};
 }
 
 MenuEntry Command(const QString& title, bool enabled, bool checked, std::function<void()> perform)
@@ -104,6 +106,22 @@ void AddUserPresets(std::vector<MenuEntry>* menu, const Window& shown,
     }
 }
 
+void AddFileTables(std::vector<MenuEntry>* menu, const std::vector<FileTable>& tables,
+                   const zel_TransformRec* shown, const LevelMenuCommands& commands)
+{
+    if (!tables.empty())
+        menu->emplace_back();
+    for (std::size_t i = 0; i < tables.size(); ++i) {
+        const FileTable& table = tables[i];
+        const QString title =
+            table.name.isEmpty() ? Word("Table #").arg(static_cast<int>(i) + 1) : table.name;
+        const bool isShown = shown && shown->voiTable && *shown->voiTable == *table.table;
+        menu->push_back(Command(title, true, isShown, [i, choose = commands.selectVOITable] {
+            choose(static_cast<int>(i));
+        }));
+    }
+}
+
 void AddExtraItems(std::vector<MenuEntry>* menu, bool gray, const LevelMenuCommands& commands)
 {
     if (gray) {
@@ -116,31 +134,6 @@ void AddExtraItems(std::vector<MenuEntry>* menu, bool gray, const LevelMenuComma
 }
 
 }  // namespace
-
-std::vector<FileWindow> FileWindowsOf(const ZELSequenceProxy& proxy, std::int32_t frame)
-{
-    std::vector<FileWindow> windows;
-    dk_SequenceBase* sequence = proxy.theSequence();
-    dk_ImageFrameInfo* info =
-        sequence ? sequence->GetImageFrameInfo(frame == 0 ? proxy.currentFrame() : frame) : nullptr;
-    if (!info || !proxy.isDICOMGray())
-        return windows;
-    const zelParserVisit visit(info->fSource);
-    if (!visit.Parser())
-        return windows;
-    const zelFrameGroups groups(visit.Parser());
-    const std::int32_t inFile = info->fFrameInFile;
-    const std::int32_t count = Parser_GetNumberOfUniqueWindowingPresets(groups, inFile);
-    for (std::int32_t i = 1; i <= count; ++i) {
-        FileWindow window;
-        std::string name;
-        if (Parser_GetUniqueWindowingPreset(groups, inFile, i, &window.width, &window.level, &name))
-            break;
-        window.name = QString::fromStdString(name).trimmed();
-        windows.push_back(std::move(window));
-    }
-    return windows;
-}
 
 std::vector<MenuEntry> constructLevelMenuForSequence(const ZELSequenceProxy& proxy,
                                                      std::int32_t frame, bool withExtraItems,
@@ -161,6 +154,7 @@ std::vector<MenuEntry> constructLevelMenuForSequence(const ZELSequenceProxy& pro
                 Command(Word("Original"), true, shown.atOriginals, commands.originalWWWLorBnC));
         AddFileWindows(&menu, windows, shown, commands);
         AddUserPresets(&menu, shown, commands);
+        AddFileTables(&menu, FileTablesOf(proxy, frame), RecordOf(proxy, frame), commands);
     }
     if (withExtraItems)
         AddExtraItems(&menu, gray, commands);

@@ -1,23 +1,16 @@
-// The menu of windows for one frame: what its file asks for, then the user's presets. Built anew
-// each time it shows, so that marks and what can be chosen are never out of date. Main thread only.
+// The menu of windows for one frame: what its file asks for, the user's presets, then the file's
+// tables, which no count of the others has to know. Built anew each time it shows, so that marks
+// and what can be chosen are never out of date. Main thread only.
 #pragma once
-#include "app/grid/ZELSequenceGridViewModelController.h"
+#include "app/tools/FileLooks.h"
 #include "app/tools/MenuEntry.h"
 #include "prefs/WindowPresets.h"
-
-// A window of the file's that no earlier one equals.
-struct FileWindow {
-    std::int32_t width = 0, level = 0;
-    QString name;  // may be empty
-};
-// Those of a frame (0 the current one), in the file's order; of other frames than gray ones none.
-[[nodiscard]] std::vector<FileWindow> FileWindowsOf(const ZELSequenceProxy& proxy,
-                                                    std::int32_t frame);
 
 struct LevelMenuCommands {
     std::function<void()> originalWWWLorBnC;
     std::function<void(int item)> selectWWWLPresetValue;  // the place in the menu
     std::function<void(int item)> selectWWWLMenuValue;
+    std::function<void(int table)> selectVOITable;  // of the file's, from 0
     // Entries without a command stand disabled.
     std::function<void()> makePresetAction, editPresetsAction, openAdjustColorsDialog;
 };

@@ -125,6 +125,7 @@ std::vector<MenuEntry> ZELWWWLTextBoxController::updateWWWLMenu()
     };
     commands.selectWWWLPresetValue = [this](int item) { selectWWWLPresetValue(item); };
     commands.selectWWWLMenuValue = [this](int item) { selectWWWLMenuValue(item); };
+    commands.selectVOITable = [this](int table) { selectVOITable(table); };
     commands.makePresetAction = makePresetAction;
     commands.editPresetsAction = editPresetsAction;
     commands.openAdjustColorsDialog = openAdjustColorsDialog;
@@ -153,4 +154,14 @@ void ZELWWWLTextBoxController::selectWWWLMenuValue(int item)
         const ZELWWWLMenuItem& chosen = presets[static_cast<std::size_t>(preset)];
         U_ApplyWWBrightness(double{chosen.wwidth}, double{chosen.wcenter});
     }
+}
+
+void ZELWWWLTextBoxController::selectVOITable(int table)
+{
+    if (!mayEdit())
+        return;
+    const std::vector<FileTable> tables = FileTablesOf(*target(), 0);
+    if (table >= 0 && table < static_cast<int>(tables.size()))
+        fActions->showVOITable(tables[static_cast<std::size_t>(table)].table);
+    fChanged();
 }

@@ -43,6 +43,7 @@ private:
     void U_ApplyWWBrightness(double brightness, double contrast);
     void selectWWWLPresetValue(int item);
     void selectWWWLMenuValue(int item);
+    void selectVOITable(int table);
 
     GridHost* _gridsController;
     ViewerActions* fActions;

@@ -122,6 +122,12 @@ void dk_SequenceFrameInfo::SetFrameVOI(std::int32_t frame, float width, float le
              [&](dk_ImageFrameInfo& info) { info.fTransform.RecordVOI(width, level); });
 }
 
+void dk_SequenceFrameInfo::SetFrameVOITable(std::int32_t frame,
+                                            const std::shared_ptr<const zelVOITable>& table)
+{
+    OnFrames(this, frame, [&](dk_ImageFrameInfo& info) { info.fTransform.RecordVOITable(table); });
+}
+
 void dk_SequenceFrameInfo::SetFrameBnC(std::int32_t frame, std::int32_t brightness,
                                        std::int32_t contrast)
 {

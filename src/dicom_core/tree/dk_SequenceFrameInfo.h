@@ -33,6 +33,7 @@ public:
     void ResetFrameFlips(std::int32_t frame);
     void RotateFrame(std::int32_t frame, std::int16_t degrees);
     void SetFrameVOI(std::int32_t frame, float width, float level);
+    void SetFrameVOITable(std::int32_t frame, const std::shared_ptr<const zelVOITable>& table);
     void SetFrameBnC(std::int32_t frame, std::int32_t brightness, std::int32_t contrast);
     void ResetFrameVOI(std::int32_t frame);
     void SetFrameColorTable(std::int32_t frame, std::int32_t table);

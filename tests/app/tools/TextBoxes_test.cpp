@@ -351,6 +351,52 @@ TEST(LevelMenu, an_item_shows_its_window_and_is_marked)
         EXPECT_EQ(UserPresetOfItem(row.item, row.files, row.presets), row.preset);
 }
 
+std::string Bytes16(const std::vector<std::uint16_t>& values)
+{
+    std::string bytes;
+    for (const std::uint16_t value : values) {
+        bytes += static_cast<char>(value & 0xFF);
+        bytes += static_cast<char>(value >> 8);
+    }
+    return bytes;
+}
+
+TEST(LevelMenu, offers_the_files_tables_behind_the_users_presets)
+{
+    const auto table = [](std::vector<std::uint16_t> entries, const char* name) {
+        Item item;
+        item.Element(0x0028, 0x3002, "US",
+                     Bytes16({static_cast<std::uint16_t>(entries.size()), 0, 16}));
+        if (name)
+            item.Element(0x0028, 0x3003, "LO", name);
+        return item.Element(0x0028, 0x3006, "OW", Bytes16(entries));
+    };
+    DicomBuilder file;
+    file.Meta(kUidExplicitLittle).CommonHeader("CT");
+    file.Image({.rows = 1, .columns = 4, .bits = 16, .samples = 1});
+    file.Element(0x0028, 0x1050, "DS", "2").Element(0x0028, 0x1051, "DS", "4");
+    file.Sequence(0x0028, 0x3010,
+                  {table({0, 65535, 0, 65535}, "STEPS"), table({65535, 1, 2, 3}, nullptr)});
+    LevelMenus menus(file.NativePixels({0, 1, 2, 3}));
+    EXPECT_EQ(LinesOf(menus.level.updateWWWLMenu()),
+              (Words{" -", "Original x", "|", "Soft", "Unnamed", "Wild -", "|", "STEPS", "Table 2",
+                     "|", "Make Preset -", "Edit Presets -", "|", "Adjust... -"}));
+    menus.level.updateWWWLMenu()[7].perform(false);
+    ASSERT_TRUE(menus.Record().voiTable);
+    EXPECT_EQ(menus.Record().voiTable->fExplanation, "STEPS");
+    EXPECT_EQ(menus.Record().voiWidth, 4) << "its span";
+    const Words lines = LinesOf(menus.level.updateWWWLMenu());
+    EXPECT_EQ(lines[7], "STEPS x");
+    EXPECT_EQ(lines[1], "Original") << "the table shows, not the window of the same numbers";
+    menus.grid.U_UpdateGridSizeAndFrame({20, 20}, 1);
+    const QImage picture = menus.grid.photoAtIndex(0).image;
+    ASSERT_EQ(picture.width(), 4);
+    for (int x = 0; x < 4; ++x)
+        EXPECT_EQ(qGray(picture.pixel(x, 0)), x % 2 == 0 ? 0 : 255) << x;
+    menus.level.updateWWWLMenu()[1].perform(false);
+    EXPECT_FALSE(menus.Record().voiTable);
+}
+
 TEST(LevelMenu, other_frames_than_gray_ones_have_their_originals_alone)
 {
     Boxes boxes({.frames = 1, .color = true});
