@@ -1,6 +1,7 @@
 // The grids of a window in their layout, with what they need around them: tools, commands and the
 // proxies of the tree's sequences. Main thread only.
 #pragma once
+#include "app/tools/SelectedTool.h"
 #include "app/tools/ZELToolsController.h"
 #include "app/views/GridLayoutView.h"
 #include "app/views/ViewerBoxes.h"
@@ -93,6 +94,7 @@ private:
     std::map<dk_SequenceBase*, std::shared_ptr<ZELSequenceProxy>> _proxies;
     ToolScope _scope;
     ZELToolsController _tools;
+    SelectedTool _selectedTool{this, &_tools};
     FrameNavigation _navigation;
     ViewerActions _actions;
     std::shared_ptr<MultiGridViewController> _grids;

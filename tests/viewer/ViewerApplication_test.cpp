@@ -177,10 +177,12 @@ TEST_F(ViewerSession, a_drop_opens_another_window_and_a_row_shows_its_sequence)
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder.Path("both")))});
         QDragEnterEvent over({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(windows.front(), &over);
+        // On a grid, which leaves files to its window.
+        QWidget* grid = windows.front()->findChild<ZELDraggingSequenceGridView*>()->viewport();
+        QApplication::sendEvent(grid, &over);
         EXPECT_TRUE(over.isAccepted());
         QDropEvent event({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(windows.front(), &event);
+        QApplication::sendEvent(grid, &event);
         return true;
     };
     const auto choose = [] {

@@ -1,6 +1,7 @@
 // Drags as rows of events: what the frame shows meanwhile, and what is posted at the end.
 #include "app/grid/GridFixture.h"
 #include "app/tools/MouseTrackers.h"
+#include "app/tools/SelectedTool.h"
 #include "app/tools/ZELToolsController.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
 
@@ -220,6 +221,31 @@ TEST(ZELToolsController, goes_back_one_tool)
     EXPECT_TRUE(tools.currentToolIsToolbarTool());
     EXPECT_TRUE(ZELToolsController::IsDrawTool(kToolCrop));
     EXPECT_FALSE(ZELToolsController::IsToolbarTool(kToolLine));
+}
+
+TEST(SelectedTool, ends_what_was_unfinished_and_moves_the_crop)
+{
+    const Quiet quiet;
+    MadeTree made;
+    Window window(&made);
+    ZELToolsController tools, others;
+    const SelectedTool selected(&window.host, &tools);
+    struct Row {
+        std::int32_t tool;
+        Words asked;
+    };
+    const Row rows[] = {
+        {kToolPan, {"A drop", "A stop editing", "toolbar"}},
+        {kToolCrop, {"A drop", "A stop editing", "activate crop", "toolbar"}},
+        {kToolCrop, {}},
+        {kToolZoom, {"A drop", "A stop editing", "freeze crop", "toolbar"}},
+    };
+    for (const Row& row : rows) {
+        tools.changeToolTo(row.tool);
+        EXPECT_EQ(window.host.Take(), row.asked) << row.tool;
+    }
+    others.changeToolTo(kToolCrop);
+    EXPECT_EQ(window.host.Take(), Words()) << "another window's tool";
 }
 
 }  // namespace
