@@ -1,6 +1,7 @@
 // The grids of a window in their layout, with what they need around them: tools, commands and the
 // proxies of the tree's sequences. Main thread only.
 #pragma once
+#include "app/draw/AnnotationLook.h"
 #include "app/tools/SelectedTool.h"
 #include "app/tools/ZELToolsController.h"
 #include "app/views/GridLayoutView.h"
@@ -96,6 +97,7 @@ private:
     ZELToolsController _tools;
     SelectedTool _selectedTool{this, &_tools};
     FrameNavigation _navigation;
+    AnnotationLook _annotationLook{this};
     ViewerActions _actions;
     std::shared_ptr<MultiGridViewController> _grids;
     ObservableKeys::Watch _target;

@@ -238,11 +238,10 @@ TEST(MultiGrid, gives_menus_their_values)
         window.host.scope.setToolScope(row.scope);
         window.grids->setCurrentClutMenuItemID(row.item);
         const std::int32_t table = row.item > 0 ? row.item - 1 : 0;
-        EXPECT_EQ(FramesWith(window.made.sequences[0],
-                             [&](const dk_ImageFrameInfo& info) {
-                                 return info.fColorTable == table;
-                             }),
-                  row.frames)
+        EXPECT_EQ(
+            FramesWith(window.made.sequences[0],
+                       [&](const dk_ImageFrameInfo& info) { return info.fColorTable == table; }),
+            row.frames)
             << row.item;
         if (*row.frames)
             EXPECT_EQ(window.grids->currentClutMenuItemID(), row.item);
