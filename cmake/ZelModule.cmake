@@ -92,7 +92,9 @@ function(zel_add_tests folder target qt)
     add_dependencies(all_tests ${program})
     gtest_discover_tests(${program} TEST_PREFIX "${folder}:" DISCOVERY_TIMEOUT 60
         PROPERTIES LABELS "${label}" TIMEOUT 300
-                   ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ZELORA_SNAPSHOTS=${CMAKE_BINARY_DIR}/snapshots")
+                   ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
+                   # A second value of ENVIRONMENT would be lost on the way through the discovery.
+                   ENVIRONMENT_MODIFICATION "ZELORA_SNAPSHOTS=set:${CMAKE_BINARY_DIR}/snapshots")
 endfunction()
 
 function(zel_add_program)
