@@ -1,5 +1,6 @@
 #include "app/views/MUPhotoView.h"
 
+#include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -34,6 +35,15 @@ void MUPhotoView::syncScrollBar()
     bar->setRange(0, shown ? shown->matrix().lastFirstRow() : 0);
     bar->setValue(shown ? shown->firstRow() : 0);
     _syncing = was;
+    // Within a resizing the base class doesn't look at the range.
+    if (bar->isVisibleTo(this) != (bar->maximum() > bar->minimum()))
+        QMetaObject::invokeMethod(this, &MUPhotoView::layOutScrollBar, Qt::QueuedConnection);
+}
+
+void MUPhotoView::layOutScrollBar()
+{
+    QResizeEvent event(size(), size());
+    QCoreApplication::sendEvent(this, &event);
 }
 
 bool MUPhotoView::eventFilter(QObject* watched, QEvent* event)

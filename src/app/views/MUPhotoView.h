@@ -46,6 +46,8 @@ protected:
     bool potentialDragDrop = false;  // that press may become a drag of what the view shows
 
 private:
+    void layOutScrollBar();
+
     WheelSteps _wheel;
     bool _syncing = false;  // the scroll bar follows the cells
     QTimer _liveResize;     // runs while sizes keep changing

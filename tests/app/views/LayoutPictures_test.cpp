@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QMenu>
 #include <QPalette>
+#include <QScrollBar>
 
 namespace {
 
@@ -53,8 +54,12 @@ TEST(LayoutPictures, of_every_layout_in_light_and_dark)
             window.Open(layout.id);
             QCoreApplication::processEvents();
             window.host.layout->fitGridDims();
+            QCoreApplication::processEvents();
             const QImage picture = window.window.grab().toImage();
             EXPECT_EQ(picture.size(), kWindow * picture.devicePixelRatio());
+            for (const ZELDraggingSequenceGridView* view : window.host.layout->theSequenceViews())
+                EXPECT_EQ(view->verticalScrollBar()->isVisible(),
+                          view->sequenceGridController().viewport().matrix().lastFirstRow() > 0);
             EXPECT_EQ(DividerPixels(picture, ground) > picture.height(), layout.grids() > 1)
                 << layout.name;
             Keep(picture, QStringLiteral("layout_%1_%2")
