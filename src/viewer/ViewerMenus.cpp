@@ -82,6 +82,27 @@ public:
         });
     }
 
+    // One that the right button offers as well, on the active grid and its current frame.
+    void AddCommand(GridCommand command)
+    {
+        GridsPane* pane = fPane;
+        const auto target = [pane] {
+            return GridTarget{&pane->grid(), pane, &pane->actions(), 0, nullptr, 0};
+        };
+        const GridCommandState first = StateOfGridCommand(command, target());
+        QAction* action =
+            fMenu->addAction(ZelWord(kWordsMenuItems, first.title), QKeySequence(first.shortcut),
+                             fMenu, [command, target] { PerformGridCommand(command, target()); });
+        QObject::connect(fMenu, &QMenu::aboutToShow, action, [action, command, target] {
+            const GridCommandState state = StateOfGridCommand(command, target());
+            action->setText(ZelWord(kWordsMenuItems, state.title));
+            action->setEnabled(state.enabled);
+        });
+        // Its key asks the rule anew, whatever the menu last said.
+        QObject::connect(fMenu, &QMenu::aboutToHide, action,
+                         [action] { action->setEnabled(true); });
+    }
+
 private:
     QMenu* fMenu;
     GridsPane* fPane;
@@ -89,25 +110,13 @@ private:
 
 void AddLooks(PaneMenu menu)
 {
-    menu.Add("Zoom &In", QKeySequence::ZoomIn,
-             [](GridsPane& p) { p.actions().nextZoomValue(p.grid()); });
-    menu.Add("Zoom &Out", QKeySequence::ZoomOut,
-             [](GridsPane& p) { p.actions().prevZoomValue(p.grid()); });
-    menu.Add("&Actual Size", Qt::CTRL | Qt::Key_1,
-             [](GridsPane& p) { p.actions().normalZoomValue(p.grid()); });
-    menu.Add("&Fit in Window", Qt::CTRL | Qt::Key_0,
-             [](GridsPane& p) { p.actions().autoFitView(p.grid(), 0); });
+    using C = GridCommand;
+    for (const C command : {C::Enlarge, C::Reduce, C::NormalSize, C::FitInWindow})
+        menu.AddCommand(command);
     menu.menu()->addSeparator();
-    menu.Add("&Invert", Qt::CTRL | Qt::Key_I,
-             [](GridsPane& p) { p.actions().invertColorsForView(p.grid(), 0); });
-    menu.Add("Rotate &Left", Qt::CTRL | Qt::Key_L,
-             [](GridsPane& p) { p.actions().rotateView(p.grid(), 0, true); });
-    menu.Add("Rotate &Right", Qt::CTRL | Qt::Key_R,
-             [](GridsPane& p) { p.actions().rotateView(p.grid(), 0, false); });
-    menu.Add("Flip &Horizontal", Qt::CTRL | Qt::SHIFT | Qt::Key_H,
-             [](GridsPane& p) { p.actions().flipView(p.grid(), 0, false); });
-    menu.Add("Flip &Vertical", Qt::CTRL | Qt::SHIFT | Qt::Key_V,
-             [](GridsPane& p) { p.actions().flipView(p.grid(), 0, true); });
+    for (const C command :
+         {C::Invert, C::RotateLeft, C::RotateRight, C::FlipHorizontal, C::FlipVertical})
+        menu.AddCommand(command);
     menu.menu()->addSeparator();
     menu.Add("Original &Window", Qt::CTRL | Qt::SHIFT | Qt::Key_O,
              [](GridsPane& p) { p.actions().originalWWWLorBnC(); });
@@ -119,26 +128,9 @@ void AddLooks(PaneMenu menu)
 
 void AddShown(PaneMenu menu)
 {
-    menu.AddMarked(
-        "&Text", Qt::CTRL | Qt::Key_T,
-        [](GridsPane& p) { return p.proxy()->viewShowsDemographics(); },
-        [](GridsPane& p) {
-            p.proxy()->setViewShowsDemographics(p.proxy()->viewShowsDemographics() ? 0 : 1);
-            p.view()->setNeedsDisplay();
-        });
-    menu.AddMarked(
-        "R&uler", Qt::CTRL | Qt::Key_U, [](GridsPane& p) { return p.proxy()->viewShowsScale(); },
-        [](GridsPane& p) {
-            p.proxy()->setViewShowsScale(!p.proxy()->viewShowsScale());
-            p.view()->setNeedsDisplay();
-        });
-    menu.AddMarked(
-        "O&verlays", Qt::CTRL | Qt::Key_Y,
-        [](GridsPane& p) { return p.proxy()->viewShowsDicomOverlays(); },
-        [](GridsPane& p) {
-            p.proxy()->setViewShowsDicomOverlays(!p.proxy()->viewShowsDicomOverlays());
-            p.view()->setNeedsDisplay();
-        });
+    for (const GridCommand command :
+         {GridCommand::SwitchDemographics, GridCommand::SwitchScale, GridCommand::SwitchOverlays})
+        menu.AddCommand(command);
 }
 
 // One of the submenus that the right button shows too, made anew whenever it shows.
@@ -183,11 +175,8 @@ void AddViewMenus(QMainWindow* window, GridsPane* pane)
     AddReferenceLines({view, pane});
     AddShown({view, pane});
     view->addSeparator();
-    PaneMenu sequences(view, pane);
-    sequences.Add("&Previous Sequence", Qt::CTRL | Qt::Key_Left,
-                  [](GridsPane& p) { p.actions().gotoPreviousSequence(p.grid()); });
-    sequences.Add("&Next Sequence", Qt::CTRL | Qt::Key_Right,
-                  [](GridsPane& p) { p.actions().gotoNextSequence(p.grid()); });
+    for (const GridCommand command : {GridCommand::PreviousSequence, GridCommand::NextSequence})
+        PaneMenu(view, pane).AddCommand(command);
 
     PaneMenu tools(window->menuBar()->addMenu(ViewerWord("&Tools")), pane);
     struct Row {

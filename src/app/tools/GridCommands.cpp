@@ -243,9 +243,9 @@ constexpr Row Checked(GridCommand command, const char* title, Test isOn, Test ru
 
 // and one with another title then.
 constexpr Row Turned(GridCommand command, const char* title, const char* titleOn, Test isOn,
-                     Test rule, unsigned needs, Act perform)
+                     Test rule, unsigned needs, Act perform, const char* key = nullptr)
 {
-    return {command, title, titleOn, isOn, rule, needs, perform};
+    return {command, title, titleOn, isOn, rule, needs, perform, key};
 }
 
 using C = GridCommand;
@@ -263,21 +263,21 @@ constexpr Row kRows[] = {
     Plain(C::NextSequence, "Next Sequence", HasManyGoodSequences, kNothing, OnGrid<&V::gotoNextSequence>, "Ctrl+Right"),
     Turned(C::SwitchSequenceMark, "Mark Sequence", "Unmark Sequence", Is<&P::userMarked>, Always, kNothing, OnGrid<&V::switchSequenceMark>),
     Plain(C::FirstFrame, "First Frame", Is<&P::hasPrevFrame>, kStill, Go<FrameStep::First>, "Home"),
-    Plain(C::PreviousFrame, "Previous Frame", Is<&P::hasPrevFrame>, kStill, Go<FrameStep::Previous>),
-    Plain(C::NextFrame, "Next Frame", Is<&P::hasNextFrame>, kStill, Go<FrameStep::Next>),
+    Plain(C::PreviousFrame, "Previous Frame", Is<&P::hasPrevFrame>, kStill, Go<FrameStep::Previous>, "Left"),
+    Plain(C::NextFrame, "Next Frame", Is<&P::hasNextFrame>, kStill, Go<FrameStep::Next>, "Right"),
     Plain(C::LastFrame, "Last Frame", Is<&P::hasNextFrame>, kStill, Go<FrameStep::Last>, "End"),
-    Plain(C::Enlarge, "Enlarge", Is<&P::hasNextZoom>, kStill | kFrame, OnFrame<&V::nextZoomValue>),
-    Plain(C::Reduce, "Reduce", Is<&P::hasPrevZoom>, kStill | kFrame, OnFrame<&V::prevZoomValue>),
-    Plain(C::NormalSize, "Normal Size", Always, kStill | kFrame, OnFrame<&V::normalZoomValue>),
-    Plain(C::FitInWindow, "Fit in Window", Always, kStill | kFrame, OnFrame<&V::autoFitView>),
-    Plain(C::FlipHorizontal, "Flip Horizontal", Always, kStill | kFrame, Flip<false>),
-    Plain(C::FlipVertical, "Flip Vertical", Always, kStill | kFrame, Flip<true>),
-    Plain(C::RotateLeft, "Rotate Left", Always, kStill | kFrame, Rotate<true>),
-    Plain(C::RotateRight, "Rotate Right", Always, kStill | kFrame, Rotate<false>),
-    Plain(C::Invert, "Invert", Always, kStill | kFrame, OnFrame<&V::invertColorsForView>),
-    Turned(C::SwitchDemographics, "Show Demographics", "Hide Demographics", Is<&P::viewShowsDemographics>, Always, kStill, Demographics),
-    Turned(C::SwitchScale, "Show Scale", "Hide Scale", Is<&P::viewShowsScale>, Is<&P::hasScale>, kStill, Scale),
-    Turned(C::SwitchOverlays, "Show Overlays", "Hide Overlays", Is<&P::viewShowsDicomOverlays>, Is<&P::hasDicomOverlays>, kStill, Overlays),
+    Plain(C::Enlarge, "Enlarge", Is<&P::hasNextZoom>, kStill | kFrame, OnFrame<&V::nextZoomValue>, "Ctrl++"),
+    Plain(C::Reduce, "Reduce", Is<&P::hasPrevZoom>, kStill | kFrame, OnFrame<&V::prevZoomValue>, "Ctrl+-"),
+    Plain(C::NormalSize, "Normal Size", Always, kStill | kFrame, OnFrame<&V::normalZoomValue>, "Ctrl+1"),
+    Plain(C::FitInWindow, "Fit in Window", Always, kStill | kFrame, OnFrame<&V::autoFitView>, "Ctrl+0"),
+    Plain(C::FlipHorizontal, "Flip Horizontal", Always, kStill | kFrame, Flip<false>, "Ctrl+Shift+H"),
+    Plain(C::FlipVertical, "Flip Vertical", Always, kStill | kFrame, Flip<true>, "Ctrl+Shift+V"),
+    Plain(C::RotateLeft, "Rotate Left", Always, kStill | kFrame, Rotate<true>, "Ctrl+L"),
+    Plain(C::RotateRight, "Rotate Right", Always, kStill | kFrame, Rotate<false>, "Ctrl+R"),
+    Plain(C::Invert, "Invert", Always, kStill | kFrame, OnFrame<&V::invertColorsForView>, "Ctrl+I"),
+    Turned(C::SwitchDemographics, "Show Demographics", "Hide Demographics", Is<&P::viewShowsDemographics>, Always, kStill, Demographics, "Ctrl+T"),
+    Turned(C::SwitchScale, "Show Scale", "Hide Scale", Is<&P::viewShowsScale>, Is<&P::hasScale>, kStill, Scale, "Ctrl+U"),
+    Turned(C::SwitchOverlays, "Show Overlays", "Hide Overlays", Is<&P::viewShowsDicomOverlays>, Is<&P::hasDicomOverlays>, kStill, Overlays, "Ctrl+Y"),
     Turned(C::SwitchMeasurements, "Show Measurements", "Hide Measurements", ShowsMeasurements, Is<&P::hasMeasurements>, kStill, Measurements),
     Turned(C::SwitchUSRegions, "Show US Regions", "Hide US Regions", ShowsUSRegions, Is<&P::hasUSRegions>, kStill, USRegions),
     Plain(C::PlayCine, "Play Cine", Is<&P::canPlayCine>, kStill | kFrame | kPlayer, Play, "Space"),
