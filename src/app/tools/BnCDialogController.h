@@ -15,25 +15,31 @@ public:
 
     [[nodiscard]] QString titleOf(Row row) const;
     [[nodiscard]] QString explanationOf(Row row) const;  // the limits, in words
-    [[nodiscard]] std::int32_t minimumOf(Row row) const;
-    [[nodiscard]] std::int32_t maximumOf(Row row) const;
-    [[nodiscard]] std::int32_t valueOf(Row row) const;  // the frame's present one
+    [[nodiscard]] double minimumOf(Row row) const;
+    [[nodiscard]] double maximumOf(Row row) const;
+    [[nodiscard]] double valueOf(Row row) const;  // the frame's present one
+    // 1, or less where the scale of the frame's window has finer steps; and how many decimals show
+    // such a step.
+    [[nodiscard]] double step() const;
+    [[nodiscard]] int decimals() const;
 
     [[nodiscard]] bool previewIsOn() const;
     // One control has another value; both rows' values when `row` is none of them.
-    void previewImage(Row row, std::int32_t value);
-    void previewBoth(std::int32_t first, std::int32_t second);
-    void livePreviewOnOff(bool on, std::int32_t first, std::int32_t second);
-    void accept(std::int32_t first, std::int32_t second);
+    void previewImage(Row row, double value);
+    void previewBoth(double first, double second);
+    void livePreviewOnOff(bool on, double first, double second);
+    void accept(double first, double second);
     void cancel();
 
 private:
-    void show(float first, float second);
+    void show(double first, double second);
+    [[nodiscard]] const zel_TransformRec* record() const;  // null when the frame is gone
 
     ViewerActions* fActions;
     ZELSequenceGridViewModelController* _theView;
     std::shared_ptr<ZELSequenceProxy> _targetSequence;
     const bool fGray;
     const std::int32_t fFrame;
-    float _origWWBrightness, _origWLContrast;
+    double _origWWBrightness = 0, _origWLContrast = 0;
+    std::shared_ptr<const zelVOITable> fOrigTable;  // that showed in place of the window; or null
 };

@@ -16,8 +16,12 @@ public:
     void retarget() { fWatch.retarget(); }
 
 private:
+    void changeCurrentFrameCine(const Notification& note);
     [[nodiscard]] int frameOf(const QString& typed) const;  // 0 for none of the sequence's
 
     GridHost* _gridsController;
+    std::function<void()> fChanged;
+    int fCineFrame = 0;  // that a playing grid shows
+    NotificationCenter::Observation fCine;
     TargetWatch fWatch;
 };

@@ -1,5 +1,6 @@
 #include "app/tools/ZELWWWLTextBoxController.h"
 
+#include "app/tools/BnCDialogController.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
 #include "platform/Words.h"
 
@@ -128,7 +129,8 @@ std::vector<MenuEntry> ZELWWWLTextBoxController::updateWWWLMenu()
     commands.selectVOITable = [this](int table) { selectVOITable(table); };
     commands.makePresetAction = makePresetAction;
     commands.editPresetsAction = editPresetsAction;
-    commands.openAdjustColorsDialog = openAdjustColorsDialog;
+    if (BnCDialogController::canOpen(*_gridsController))
+        commands.openAdjustColorsDialog = openAdjustColorsDialog;
     return constructLevelMenuForSequence(*target(), 0, true, commands);
 }
 

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QSlider>
 #include <QSpinBox>
+#include <cmath>
 
 using Row = BnCDialogController::Row;
 
@@ -40,21 +41,28 @@ AdjustSheet::AdjustSheet(GridHost* host, ViewerActions* actions, QWidget* parent
 
 void AdjustSheet::addRow(QFormLayout* form, Row row)
 {
-    const int minimum = _controller.minimumOf(row), maximum = _controller.maximumOf(row);
-    const int value = _controller.valueOf(row);
+    const double minimum = _controller.minimumOf(row), step = _controller.step();
     auto* slider = new QSlider(Qt::Horizontal);
-    auto* field = new QSpinBox;
+    auto* field = new QDoubleSpinBox;
+    const auto steps = [minimum, step](double value) {
+        return static_cast<int>(std::lround((value - minimum) / step));
+    };
     slider->setMinimumWidth(kSliderWidth);
-    slider->setRange(minimum, maximum);
-    field->setRange(minimum, maximum);
-    slider->setValue(value);
-    field->setValue(value);
+    slider->setRange(0, steps(_controller.maximumOf(row)));
+    field->setDecimals(_controller.decimals());
+    field->setSingleStep(step);
+    field->setRange(minimum, _controller.maximumOf(row));
+    field->setValue(_controller.valueOf(row));
+    slider->setValue(steps(_controller.valueOf(row)));
     slider->setAccessibleName(_controller.titleOf(row));
     field->setAccessibleName(_controller.titleOf(row));
-    connect(slider, &QSlider::valueChanged, field, &QSpinBox::setValue);
-    connect(field, &QSpinBox::valueChanged, this, [this, row, slider](int changed) {
-        slider->setValue(changed);
-        _controller.previewImage(row, changed);
+    connect(slider, &QSlider::valueChanged, this, [field, steps, minimum, step](int at) {
+        if (steps(field->value()) != at)  // else it only follows the field
+            field->setValue(minimum + at * step);
+    });
+    connect(field, &QDoubleSpinBox::valueChanged, this, [this, row, slider, steps](double value) {
+        slider->setValue(steps(value));
+        _controller.previewImage(row, value);
     });
     _sliders[static_cast<std::size_t>(row)] = slider;
     _fields[static_cast<std::size_t>(row)] = field;
@@ -67,7 +75,7 @@ void AdjustSheet::addRow(QFormLayout* form, Row row)
     form->addRow(QString(), explanation);
 }
 
-int AdjustSheet::valueIn(Row row) const { return field(row)->value(); }
+double AdjustSheet::valueIn(Row row) const { return field(row)->value(); }
 
 void AdjustSheet::accept()
 {

@@ -6,9 +6,9 @@
 #include <array>
 
 class QCheckBox;
+class QDoubleSpinBox;
 class QFormLayout;
 class QSlider;
-class QSpinBox;
 
 class AdjustSheet final : public QDialog {
     Q_OBJECT
@@ -17,11 +17,12 @@ public:
     // For the window's active grid, where BnCDialogController::canOpen says so.
     AdjustSheet(GridHost* host, ViewerActions* actions, QWidget* parent);
 
+    // Counts steps from the least value.
     [[nodiscard]] QSlider* slider(BnCDialogController::Row row) const
     {
         return _sliders[static_cast<std::size_t>(row)];
     }
-    [[nodiscard]] QSpinBox* field(BnCDialogController::Row row) const
+    [[nodiscard]] QDoubleSpinBox* field(BnCDialogController::Row row) const
     {
         return _fields[static_cast<std::size_t>(row)];
     }
@@ -32,10 +33,10 @@ public:
 
 private:
     void addRow(QFormLayout* form, BnCDialogController::Row row);
-    [[nodiscard]] int valueIn(BnCDialogController::Row row) const;
+    [[nodiscard]] double valueIn(BnCDialogController::Row row) const;
 
     BnCDialogController _controller;
     std::array<QSlider*, 2> _sliders{};
-    std::array<QSpinBox*, 2> _fields{};
+    std::array<QDoubleSpinBox*, 2> _fields{};
     QCheckBox* _preview;
 };

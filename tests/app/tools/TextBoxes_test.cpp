@@ -152,6 +152,12 @@ TEST(TextBoxes, frame_as_it_is_typed)
     }
     Boxes alone({.frames = 1});
     EXPECT_FALSE(alone.frame.mayEdit());
+    Boxes playing;
+    playing.window.a.setCineModeIsON(true);
+    playing.window.a.willDisplayImage(4);
+    EXPECT_EQ(playing.frame.text(), QStringLiteral("4 of 5"));
+    playing.window.a.setCineModeIsON(false);
+    EXPECT_EQ(playing.frame.text(), QStringLiteral("1 of 5"));
 }
 
 TEST(TextBoxes, window_as_it_is_typed)
@@ -393,6 +399,18 @@ TEST(LevelMenu, offers_the_files_tables_behind_the_users_presets)
     ASSERT_EQ(picture.width(), 4);
     for (int x = 0; x < 4; ++x)
         EXPECT_EQ(qGray(picture.pixel(x, 0)), x % 2 == 0 ? 0 : 255) << x;
+    using Row = BnCDialogController::Row;
+    for (const bool cancels : {false, true}) {
+        BnCDialogController sheet(&menus.host, &menus.actions);
+        if (cancels) {
+            sheet.previewImage(Row::First, 2);
+            EXPECT_FALSE(menus.Record().voiTable);
+            sheet.cancel();
+        } else {
+            sheet.accept(sheet.valueOf(Row::First), sheet.valueOf(Row::Second));
+        }
+        ASSERT_TRUE(menus.Record().voiTable) << "a table that nobody touched stays";
+    }
     menus.level.updateWWWLMenu()[1].perform(false);
     EXPECT_FALSE(menus.Record().voiTable);
 }
@@ -423,7 +441,7 @@ TEST(AdjustSheet, previews_on_its_frame_and_ends_by_the_scope)
             ASSERT_TRUE(BnCDialogController::canOpen(boxes.window.host));
             BnCDialogController sheet(&boxes.window.host, &boxes.actions);
             prefs_Set_BnCDialogPreview(preview);
-            const std::int32_t second = sheet.valueOf(Row::Second);
+            const double second = sheet.valueOf(Row::Second);
             EXPECT_EQ(sheet.maximumOf(Row::First), boxes.Proxy().maxWWBrightness());
             sheet.previewImage(Row::First, 60);
             EXPECT_EQ(boxes.Proxy().theWWBrightnessForFrame(1), preview ? 60 : color ? 0 : 400);

@@ -110,9 +110,10 @@ TEST(AdjustSheet, moves_the_picture_and_puts_it_back)
     {
         AdjustSheet sheet(&all.host, &all.actions, &all.window);
         sheet.open();
-        EXPECT_EQ(sheet.slider(Row::First)->value(), 400);
+        EXPECT_EQ(sheet.field(Row::First)->value(), 400);
+        EXPECT_EQ(sheet.slider(Row::First)->value(), 400 - sheet.field(Row::First)->minimum());
         EXPECT_EQ(all.View(1).menuForPoint({50, 50}), nullptr) << "no menu beside a sheet";
-        sheet.slider(Row::First)->setValue(321);
+        sheet.slider(Row::First)->setValue(321 - int(sheet.field(Row::First)->minimum()));
         EXPECT_EQ(sheet.field(Row::First)->value(), 321);
         EXPECT_EQ(all.Record(1).voiWidth, 321);
         sheet.reject();
