@@ -64,12 +64,12 @@ protected:
                 EXPECT_LE(std::abs(off), 2.5) << name.toStdString() << ratio;
         }
     }
-    void AddSlices(MadeSequence* made, int count)
+    void AddSlices(MadeSequence* series, int count)
     {
         for (int slice = 0; slice < count; ++slice) {
             const std::string position = "-128\\-128\\" + std::to_string(slice * 10);
             AddPhantom(
-                made, "CT",
+                series, "CT",
                 PhantomFile("CT", {position.c_str(), kAxial.orientation, kAxial.spacing}, 128, 128)
                     .NativePixels(BodyPixels(128, 128, 1 - 0.03 * slice)));
         }

@@ -243,8 +243,9 @@ TEST(MultiGrid, gives_menus_their_values)
                        [&](const dk_ImageFrameInfo& info) { return info.fColorTable == table; }),
             row.frames)
             << row.item;
-        if (*row.frames)
+        if (*row.frames) {
             EXPECT_EQ(window.grids->currentClutMenuItemID(), row.item);
+        }
     }
     window.grids->setCurrentGridMenuID(3);
     EXPECT_EQ(window.grids->currentGridMenuID(), 3);

@@ -20,9 +20,9 @@ struct Boxes {
     {
     }
     [[nodiscard]] ZELSequenceProxy& Proxy() { return *window.a.currZELSequence(); }
-    [[nodiscard]] zel_TransformRec& Record(int frame = 1)
+    [[nodiscard]] zel_TransformRec& Record(int number = 1)
     {
-        return made.sequences[0]->GetImageFrameInfo(frame)->fTransform;
+        return made.sequences[0]->GetImageFrameInfo(number)->fTransform;
     }
 
     const Quiet quiet;
@@ -146,8 +146,9 @@ TEST(TextBoxes, frame_as_it_is_typed)
         boxes.frame.dothething(typed);
         EXPECT_EQ(boxes.Proxy().currentFrame(), row.frame) << row.typed;
         EXPECT_STREQ(Shown(end), asked.notes.empty() ? "old" : "typed") << row.typed;
-        if (!asked.notes.empty())
+        if (!asked.notes.empty()) {
             EXPECT_EQ(asked.Number(kKeyCellChangeType), 4);
+        }
         EXPECT_EQ(boxes.frame.text(), boxes.Proxy().currentFrameString());
     }
     Boxes alone({.frames = 1});
@@ -265,11 +266,12 @@ struct LevelMenus {
         CImporterPlusFactory::InitFactory();
         prefs_Store().UseFile({});
         prefs_InitializeForApplication();
-        if (gray)
+        if (gray) {
             EXPECT_EQ(saveWWWLPresets({{QStringLiteral("Soft"), 400, 40, 0},
                                        {QString(), 300, 150, 1},
                                        {QStringLiteral("Wild"), 90000, 40, 2}}),
                       kQvxOK);
+        }
         auto* patient = MadeTree::Add<dk_Patient>(tree.patientTreeRoot());
         auto* series = MadeTree::Add<dk_Series>(MadeTree::Add<dk_Study>(patient));
         sequence = MadeTree::Add<dk_Sequence>(series);

@@ -112,8 +112,9 @@ TEST(GridLayoutView, each_tool_changes_the_picture_of_its_grid_alone)
             QCoreApplication::processEvents();
             EXPECT_TRUE(row.done(window.Record(1))) << row.tool;
             EXPECT_EQ(shown(1) != before, row.changes) << row.tool;
-            if (other == 2)
+            if (other == 2) {
                 EXPECT_EQ(shown(other), beside) << row.tool;
+            }
         }
     }
 }

@@ -100,9 +100,10 @@ TEST_F(Overlays, lie_where_the_file_says_in_every_turn)
         zel_TransformRec record;
         row.turn(&record);
         EXPECT_EQ(Painted(source, 1, row.target, &record, nullptr, row.beyond), row.painted);
-        if (record.IsVoid())
+        if (record.IsVoid()) {
             EXPECT_EQ(Painted(source, 1, row.target, nullptr, nullptr, row.beyond), row.painted)
                 << "without a record";
+        }
     }
 }
 

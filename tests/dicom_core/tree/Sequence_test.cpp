@@ -180,9 +180,10 @@ TEST(SequenceFacts, give_the_size_of_pixels_as_they_are_shown)
         Point size;
         CImporterPlusFactory::InitFactory();
         ASSERT_EQ(sequence.GetImageFrameInfo(1)->GetFrameSizeWithAspectRatio(&size), kQvxOK);
-        if (!row.aspect)
+        if (!row.aspect) {
             EXPECT_FLOAT_EQ(size.h * across,
                             4 * std::strtof(std::strchr(row.spacing, '\\') + 1, nullptr));
+        }
     }
 }
 
