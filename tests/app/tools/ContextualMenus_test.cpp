@@ -109,7 +109,8 @@ TEST(ContextualMenus, offer_the_layouts_that_the_sequences_can_fill)
             EXPECT_EQ(entry.enabled, entry.tag <= row.lastTag) << row.fault << entry.tag;
         EXPECT_EQ(layouts.enabled, row.lastTag > 0) << row.fault;
         scene.window.b.setCineModeIsON(true);
-        for (const MenuEntry& entry : scene.Menu().children.front().children)
+        const MenuEntry playing = scene.Menu().children.front();
+        for (const MenuEntry& entry : playing.children)
             EXPECT_FALSE(entry.enabled) << row.fault << entry.tag << " while another grid plays";
     }
 }
