@@ -681,6 +681,366 @@
         <source>Columns</source>
         <translation>Columns</translation>
     </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Image</source>
+        <translation>&amp;Image</translation>
+    </message>
+    <message>
+        <source>&amp;Sequence</source>
+        <translation>&amp;Sequence</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Tools</translation>
+    </message>
+    <message>
+        <source>&amp;Cine</source>
+        <translation>&amp;Cine</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Window</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Open…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Open Recent</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Export…</translation>
+    </message>
+    <message>
+        <source>Export Metadata...</source>
+        <translation>Export Metadata…</translation>
+    </message>
+    <message>
+        <source>Anonymize...</source>
+        <translation>Anonymize…</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Print…</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>Close Window</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>Enter Full Screen</source>
+        <translation>Enter Full Screen</translation>
+    </message>
+    <message>
+        <source>Exit Full Screen</source>
+        <translation>Exit Full Screen</translation>
+    </message>
+    <message>
+        <source>Show Toolbar</source>
+        <translation>Show Toolbar</translation>
+    </message>
+    <message>
+        <source>Hide Toolbar</source>
+        <translation>Hide Toolbar</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Toolbar</translation>
+    </message>
+    <message>
+        <source>Show Patient List</source>
+        <translation>Show Patient List</translation>
+    </message>
+    <message>
+        <source>Hide Patient List</source>
+        <translation>Hide Patient List</translation>
+    </message>
+    <message>
+        <source>Show Study Info</source>
+        <translation>Show Study Info</translation>
+    </message>
+    <message>
+        <source>Hide Study Info</source>
+        <translation>Hide Study Info</translation>
+    </message>
+    <message>
+        <source>Show Secondary Toolbar</source>
+        <translation>Show Secondary Toolbar</translation>
+    </message>
+    <message>
+        <source>Hide Secondary Toolbar</source>
+        <translation>Hide Secondary Toolbar</translation>
+    </message>
+    <message>
+        <source>Show Measurement Pane</source>
+        <translation>Show Measurement Pane</translation>
+    </message>
+    <message>
+        <source>Hide Measurement Pane</source>
+        <translation>Hide Measurement Pane</translation>
+    </message>
+    <message>
+        <source>Show Metadata Palette</source>
+        <translation>Show Metadata Palette</translation>
+    </message>
+    <message>
+        <source>Hide Metadata Palette</source>
+        <translation>Hide Metadata Palette</translation>
+    </message>
+    <message>
+        <source>Mark Current Sequence</source>
+        <translation>Mark Current Sequence</translation>
+    </message>
+    <message>
+        <source>Unmark Current Sequence</source>
+        <translation>Unmark Current Sequence</translation>
+    </message>
+    <message>
+        <source>Mark All</source>
+        <translation>Mark All</translation>
+    </message>
+    <message>
+        <source>Unmark All</source>
+        <translation>Unmark All</translation>
+    </message>
+    <message>
+        <source>Toggle Marked</source>
+        <translation>Toggle Marked</translation>
+    </message>
+    <message>
+        <source>Mark Selected</source>
+        <translation>Mark Selected</translation>
+    </message>
+    <message>
+        <source>Unmark Selected</source>
+        <translation>Unmark Selected</translation>
+    </message>
+    <message>
+        <source>Toggle Marked in Selection</source>
+        <translation>Toggle Marked in Selection</translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation>Reset All</translation>
+    </message>
+    <message>
+        <source>Reset Colors</source>
+        <translation>Reset Colors</translation>
+    </message>
+    <message>
+        <source>Reset Orientation</source>
+        <translation>Reset Orientation</translation>
+    </message>
+    <message>
+        <source>Reset Position</source>
+        <translation>Reset Position</translation>
+    </message>
+    <message>
+        <source>Reset Measurements</source>
+        <translation>Reset Measurements</translation>
+    </message>
+    <message>
+        <source>Original Window</source>
+        <translation>Original Window</translation>
+    </message>
+    <message>
+        <source>No Color Table</source>
+        <translation>No Color Table</translation>
+    </message>
+    <message>
+        <source>Color Table</source>
+        <translation>Color Table</translation>
+    </message>
+    <message>
+        <source>Window Presets</source>
+        <translation>Window Presets</translation>
+    </message>
+    <message>
+        <source>Show Reference Lines</source>
+        <translation>Show Reference Lines</translation>
+    </message>
+    <message>
+        <source>Hide Reference Lines</source>
+        <translation>Hide Reference Lines</translation>
+    </message>
+    <message>
+        <source>Reference Lines</source>
+        <translation>Reference Lines</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+    <message>
+        <source>Whole Image</source>
+        <translation>Whole Image</translation>
+    </message>
+    <message>
+        <source>User Selection</source>
+        <translation>User Selection</translation>
+    </message>
+    <message>
+        <source>Propagate Crop</source>
+        <translation>Propagate Crop</translation>
+    </message>
+    <message>
+        <source>Clear Crop in All Series</source>
+        <translation>Clear Crop in All Series</translation>
+    </message>
+    <message>
+        <source>No regions found</source>
+        <translation>No regions found</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Crop</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Loop</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Sweep</translation>
+    </message>
+    <message>
+        <source>Play Automatically</source>
+        <translation>Play Automatically</translation>
+    </message>
+    <message>
+        <source>Play Next Series</source>
+        <translation>Play Next Series</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Zoom Tool</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>Pan</translation>
+    </message>
+    <message>
+        <source>Window and Level</source>
+        <translation>Window and Level</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Arrow</translation>
+    </message>
+    <message>
+        <source>Calibration Line</source>
+        <translation>Calibration Line</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Eyedropper</source>
+        <translation>Eyedropper</translation>
+    </message>
+    <message>
+        <source>Apply To</source>
+        <translation>Apply To</translation>
+    </message>
+    <message>
+        <source>Current Frame</source>
+        <translation>Current Frame</translation>
+    </message>
+    <message>
+        <source>All Frames of the Sequence</source>
+        <translation>All Frames of the Sequence</translation>
+    </message>
+    <message>
+        <source>Demographics</source>
+        <translation>Demographics</translation>
+    </message>
+    <message>
+        <source>Overlays</source>
+        <translation>Overlays</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Measure</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>Preferences…</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimize</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Acknowledgments</source>
+        <translation>Acknowledgments</translation>
+    </message>
+    <message>
+        <source>First Aid...</source>
+        <translation>First Aid…</translation>
+    </message>
+    <message>
+        <source>Check for Updates...</source>
+        <translation>Check for Updates…</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>About</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>
@@ -819,6 +1179,21 @@
     <message>
         <source>kRegionFormat_none</source>
         <translation>Region</translation>
+    </message>
+</context>
+<context>
+    <name>VendorStrings_zel</name>
+    <message>
+        <source>HelpFileName</source>
+        <translation>Zelora Viewer Help.pdf</translation>
+    </message>
+    <message>
+        <source>MenuProductName</source>
+        <translation>Zelora Viewer</translation>
+    </message>
+    <message>
+        <source>AboutText</source>
+        <translation>A viewer for DICOM images. It is not a medical device: do not base a diagnosis on it alone.</translation>
     </message>
 </context>
 </TS>

@@ -18,6 +18,27 @@ constexpr const char* kKeyCineLoop = "CineLoopType";
 constexpr const char* kKeyFontName = "DefaultAnnotationFontName";
 constexpr const char* kKeyFontSize = "DefaultAnnotationFontSize";
 constexpr const char* kKeyOpenFolder = "OpenTargetDirectoryKey";
+constexpr const char* kKeyPatientSplit = "NSSplitView Subview Frames PatientViewSplt";
+
+// Something else under the key, or a size that no view has, reads as nothing stored.
+std::vector<int> ReadSizes(const char* key)
+{
+    constexpr int kMostSize = 100'000;
+    std::vector<int> sizes;
+    for (const QVariant& value : prefs_Store().Array(key)) {
+        bool isNumber = false;
+        const int size = value.toInt(&isNumber);
+        if (!isNumber || size < 0 || size > kMostSize)
+            return {};
+        sizes.push_back(size);
+    }
+    return sizes;
+}
+
+void StoreSizes(const char* key, const std::vector<int>& sizes)
+{
+    Store(key, QVariantList(sizes.begin(), sizes.end()));
+}
 
 }  // namespace
 
@@ -79,6 +100,21 @@ int prefs_ShowZELToolbarPane() { return ReadInt("ShowZELToolbarPane"); }
 void prefs_Set_ShowZELToolbarPane(int state) { Store("ShowZELToolbarPane", state); }
 bool prefs_ShowMeasurementInfoPane() { return ReadBool("ShowMeasurementInfoPane"); }
 void prefs_Set_ShowMeasurementInfoPane(bool on) { Store("ShowMeasurementInfoPane", on); }
+std::vector<int> prefs_MainSplitSizes() { return ReadSizes("ZELMainSplitPos"); }
+void prefs_Set_MainSplitSizes(const std::vector<int>& sizes)
+{
+    StoreSizes("ZELMainSplitPos", sizes);
+}
+std::vector<int> prefs_PatientViewSplitSizes() { return ReadSizes(kKeyPatientSplit); }
+void prefs_Set_PatientViewSplitSizes(const std::vector<int>& sizes)
+{
+    StoreSizes(kKeyPatientSplit, sizes);
+}
+QByteArray prefs_MainWindowGeometry() { return prefs_Store().Data("ZELMainWindowGeometry"); }
+void prefs_Set_MainWindowGeometry(const QByteArray& geometry)
+{
+    Store("ZELMainWindowGeometry", geometry);
+}
 bool prefs_Get_ShowsUSRegions() { return ReadBool("ShowUSRegionsFlag"); }
 void prefs_Set_ShowsUSRegions(bool on) { Store("ShowUSRegionsFlag", on); }
 

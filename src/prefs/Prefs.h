@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class PreferenceStore;
 class QByteArray;
@@ -91,6 +92,14 @@ void prefs_Set_ShowPatientListPane(bool on);
 void prefs_Set_ShowZELToolbarPane(int state);
 [[nodiscard]] bool prefs_ShowMeasurementInfoPane();
 void prefs_Set_ShowMeasurementInfoPane(bool on);
+// Sizes along a split view's axis, view points; empty as long as nothing has been moved.
+[[nodiscard]] std::vector<int> prefs_MainSplitSizes();
+void prefs_Set_MainSplitSizes(const std::vector<int>& sizes);
+[[nodiscard]] std::vector<int> prefs_PatientViewSplitSizes();  // browser and info pane
+void prefs_Set_PatientViewSplitSizes(const std::vector<int>& sizes);
+// Place and size of the window that was closed last, as the toolkit codes them.
+[[nodiscard]] QByteArray prefs_MainWindowGeometry();
+void prefs_Set_MainWindowGeometry(const QByteArray& geometry);
 [[nodiscard]] bool prefs_Get_ShowsUSRegions();
 void prefs_Set_ShowsUSRegions(bool on);
 // The key of the user's window presets, an array; absent means those that come with the program.

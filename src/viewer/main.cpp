@@ -4,9 +4,9 @@
 //
 // With ZELORA_SNAPSHOT=FILE.png in the environment it saves a picture of the first window there and
 // ends; with QT_QPA_PLATFORM=offscreen too it does so without a display.
+#include "app/shell/ZELAppDelegate.h"
 #include "prefs/Prefs.h"
 #include "util/Log.h"
-#include "viewer/ViewerApplication.h"
 
 #include <QApplication>
 #include <QFile>
@@ -50,7 +50,7 @@ int main(int argc, char** argv)
     QApplication application(programName, argv);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Zelora Viewer"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.zelora.Viewer"));
-    ViewerApplication viewer(snapshot);
+    ZELAppDelegate viewer(snapshot);
     viewer.start(std::move(paths));
     return QApplication::exec();
 }

@@ -12,6 +12,7 @@ inline constexpr std::string_view kNoteZoomDidChange = "ZELNotification_CellZoom
 inline constexpr std::string_view kNoteGridDidChange = "ZELNotification_ActiveGrid_DidChange";
 inline constexpr std::string_view kNoteGridDidChangeSequence =
     "ZELNotification_ActiveGrid_DidChangeSequence";
+inline constexpr std::string_view kNoteMainWindowChange = "ZELNotification_MainWindowChange";
 inline constexpr std::string_view kNoteMeasurementChange = "ZELMeasurementChange";
 inline constexpr std::string_view kNoteVOIChanged = "Tool_VOI_Changed";
 inline constexpr std::string_view kNoteBnCChanged = "Tool_BnC_Changed";
@@ -28,6 +29,7 @@ inline constexpr const char* kKeyNewDkSequence = "New_dkSequence";
 inline constexpr const char* kKeyNewSequence = "NewSequence";
 inline constexpr const char* kKeyNewGridController = "NewGridController";
 inline constexpr const char* kKeyWindow = "TheWindowKey";
+inline constexpr const char* kKeyMovingOut = "MovingOutKey";  // the window closes
 inline constexpr const char* kKeyWWidth = "WWidth";
 inline constexpr const char* kKeyWLevel = "WLevel";
 inline constexpr const char* kKeyBrightness = "Brightness";

@@ -81,6 +81,11 @@ void ViewerActions::U_DoJumpView(Grid& grid, const std::shared_ptr<ZELSequencePr
         if (grid.view())
             grid.view()->setNeedsDisplay();
     }
+    tellOfSequence(proxy);
+}
+
+void ViewerActions::tellOfSequence(const std::shared_ptr<ZELSequenceProxy>& proxy)
+{
     const auto pointer = [](const void* p) { return QVariant::fromValue(const_cast<void*>(p)); };
     NotificationCenter::Default().Post(
         kNoteGridDidChangeSequence, fHost->windowKey(),

@@ -66,6 +66,8 @@ public:
     }
     // To the grid where it stands already, else into this one. Nothing for null.
     void U_DoJumpView(Grid& grid, const std::shared_ptr<ZELSequenceProxy>& proxy);
+    // Tells the window's panes that the user has brought it into the active grid.
+    void tellOfSequence(const std::shared_ptr<ZELSequenceProxy>& proxy);
     void switchSequenceMark(Grid& grid);
 
 private:

@@ -1,0 +1,358 @@
+#include "app/shell/ZELAppDelegate.h"
+
+#include "app/shell/Alerts.h"
+#include "app/shell/HelpPages.h"
+#include "app/shell/OpenPanel.h"
+#include "app/shell/QuitSignals.h"
+#include "app/shell/StartWindow.h"
+#include "app/window/WindowWords.h"
+#include "app/window/ZELMainWindowController.h"
+#include "dicom_core/annotations/PrepareSequenceAnnotations.h"
+#include "dicom_core/opening/PathNames.h"
+#include "dicom_core/opening/ZELDcmTree.h"
+#include "dicom_core/store/TempFolder.h"
+#include "platform/AlertWords.h"
+#include "platform/VolumeWatcher.h"
+#include "prefs/ColorTableFiles.h"
+#include "prefs/Prefs.h"
+
+#include "qpix/CImporterFactory.h"
+#include <QApplication>
+#include <QTimer>
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr rlim_t kOpenFiles = 10240;
+
+// As many descriptors as long folders need; the hard limit stays.
+void RaiseFileLimit()
+{
+    rlimit limit{};
+    const bool known = getrlimit(RLIMIT_NOFILE, &limit) == 0;
+    const rlim_t wanted = std::min(kOpenFiles, limit.rlim_max);
+    if (known && limit.rlim_cur >= wanted)
+        return;
+    limit.rlim_cur = wanted;
+    if (!known || setrlimit(RLIMIT_NOFILE, &limit) != 0)
+        LogLine("setrlimit error: " + std::to_string(errno) + " cur: " +
+                std::to_string(limit.rlim_cur) + " max: " + std::to_string(limit.rlim_max));
+}
+
+void SayProblem(const std::string& text) { LogLine("zelora-viewer: " + text); }
+
+// A path that goes on meaning the same thing in another run, whose working folder is another one.
+std::string FullPath(const std::string& path)
+{
+    namespace fs = std::filesystem;
+    std::error_code failed;
+    const std::string standard = StandardisedPath(path);
+    if (fs::equivalent(path, standard, failed))
+        return standard;
+    const fs::path full = fs::absolute(path, failed);  // ".." behind a link leads elsewhere
+    return failed ? path : full.string();
+}
+
+}  // namespace
+
+ZELAppDelegate::ZELAppDelegate(std::optional<QString> snapshotPath)
+    : _snapshotPath(std::move(snapshotPath)),
+      _progressWindow([this] { _controller.cancelOpen(); }),
+      _controller(this, this, &_progressWindow, isAttended() ? &_recents : nullptr)
+{
+    // Between two opens no window may stand, and an alert is no window to stay for.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+ZELAppDelegate::~ZELAppDelegate() { applicationWillTerminate(); }
+
+// --- Start ---------------------------------------------------------------------------------------
+
+void ZELAppDelegate::start(std::vector<std::string> paths)
+{
+    applicationWillFinishLaunching();
+    applicationDidFinishLaunching();
+    openPaths(std::move(paths));
+    if (isAttended())
+        finishNormalApplicationStartup();
+}
+
+void ZELAppDelegate::applicationWillFinishLaunching()
+{
+    RaiseFileLimit();
+    CImporterPlusFactory::InitFactory();
+}
+
+void ZELAppDelegate::applicationDidFinishLaunching()
+{
+    InitializeAppDefaults();
+    _recents.loadSavedRecents();
+    _baseBuffer = std::make_unique<zel_ImageBuffer>();
+    _baseBuffer->SetIOBufferSize(kBaseBufferIOBytes);
+    gAppBaseBuffer = _baseBuffer.get();
+    prefs_SetCLUTs(loadCLUTTables());
+    InstallSequenceAnnotations();
+}
+
+void ZELAppDelegate::finishNormalApplicationStartup()
+{
+    prefs_Set_NumberOfRuns_Current(prefs_NumberOfRuns_Current() + 1);
+    prefs_Synchronize();
+    _signals = std::make_unique<QuitSignals>([this] { quit(); });
+    enqueue([this] { openDiscs(); });
+}
+
+void ZELAppDelegate::openDiscs()
+{
+    SweepDeadTempFolders();
+    if (prefs_DoAutoOpenDICOMCDs())
+        _controller.openMountedCDsOnStartup();
+    _volumes = NewVolumeWatcher([this](const std::string& point) { diskMounted(point); });
+    _controller.delayedOpenFile();
+}
+
+void ZELAppDelegate::takeOver(std::vector<std::string> paths)
+{
+    if (paths.empty()) {
+        if (ZELMainWindowController* window = topmostViewerWindow())
+            window->bringToFront();
+        else if (_startWindow && _startWindow->isVisible())
+            _startWindow->activateWindow();
+    }
+    openPaths(std::move(paths));
+}
+
+// --- End -----------------------------------------------------------------------------------------
+
+void ZELAppDelegate::applicationShouldTerminate()
+{
+    for (const auto& window : _windows)
+        window->setWindowClosing();
+}
+
+void ZELAppDelegate::applicationWillTerminate()
+{
+    for (const auto& window : _windows)
+        window->imagesDB().cleanCacheFiles();
+    _volumes.reset();
+    _windows.clear();
+    _baseBuffer.reset();
+    RemoveProgramTempFolder();
+}
+
+void ZELAppDelegate::diskMounted(const std::string& mountPoint)
+{
+    if (_controller.inQTModalMode())
+        _controller.deviceDidMount(mountPoint);  // keeps it for later
+    else
+        enqueue([this, mountPoint] { _controller.deviceDidMount(mountPoint); });
+}
+
+// --- Requests ------------------------------------------------------------------------------------
+
+void ZELAppDelegate::enqueue(Job job)
+{
+    _jobs.push_back(std::move(job));
+    QTimer::singleShot(0, this, &ZELAppDelegate::runJobs);
+}
+
+void ZELAppDelegate::runJobs()
+{
+    if (_jobRuns)  // an event that came in while a request runs
+        return;
+    _jobRuns = true;
+    while (!_jobs.empty()) {
+        const Job job = std::move(_jobs.front());
+        _jobs.pop_front();
+        job();
+    }
+    _jobRuns = false;
+    leaveIfDone();
+}
+
+void ZELAppDelegate::leaveIfDone()
+{
+    std::erase_if(_windows, [](const auto& window) { return !window->isVisible(); });
+    if (_quits || (!isAttended() && _windows.empty() && _laterCalls == 0))
+        QCoreApplication::exit(_hasFailed && !_hasOpened ? 1 : 0);
+    if (_quits || !isAttended() || _laterCalls > 0)
+        return;
+    // The desktop has no menu for a program without a window.
+    if (!_windows.empty()) {
+        if (_startWindow)
+            _startWindow->hide();
+    } else {
+        if (!_startWindow) {
+            AppCommands* commands = this;  // a private base
+            _startWindow = std::make_unique<StartWindow>(commands);
+            QObject::connect(_startWindow.get(), &StartWindow::closed, this, [this] { quit(); });
+        }
+        _startWindow->show();
+    }
+}
+
+void ZELAppDelegate::openPath(const std::string& path)
+{
+    struct stat info{};
+    if (stat(path.c_str(), &info) == 0) {
+        _controller.basic_openFile(FullPath(path));
+        return;
+    }
+    const int error = errno;
+    _hasFailed = true;
+    SayProblem((path.empty() ? "empty path" : path) + ": " + std::string(StatusText(error)));
+    gOpenFileCalled = true;
+    showAlert(AlertWordsForError(kZelNoPatientInFile, DisplayText(LastComponent(path))));
+}
+
+std::function<void()> ZELAppDelegate::eventServer()
+{
+    // What the user does meanwhile waits, but for the Cancel button: see OpenProgressWindow.
+    return [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
+}
+
+void ZELAppDelegate::callLater(double seconds, std::function<void()> call)
+{
+    const std::chrono::duration<double> pause(seconds);
+    ++_laterCalls;
+    QTimer::singleShot(std::chrono::duration_cast<std::chrono::milliseconds>(pause), this,
+                       [this, call = std::move(call)] {
+                           --_laterCalls;
+                           enqueue(call);
+                       });
+}
+
+std::optional<OpenHost::Picked> ZELAppDelegate::runOpenPanel(const std::string& startFolder)
+{
+    if (!isAttended())
+        return std::nullopt;
+    OpenPanel panel(startFolder, QApplication::activeWindow());
+    if (panel.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return Picked{{panel.chosenPath()}, panel.shownFolder()};
+}
+
+// --- What a request ends in ----------------------------------------------------------------------
+
+ZELMainWindowController* ZELAppDelegate::windowOf(const ZELRecentDocument& document) const
+{
+    for (const auto& window : _windows)
+        if (window->isVisible() && window->windowDoc().matches(document))
+            return window.get();
+    return nullptr;
+}
+
+bool ZELAppDelegate::docIsAlreadyOpen(const ZELRecentDocument& document)
+{
+    return windowOf(document) != nullptr;
+}
+
+void ZELAppDelegate::bringDocWindowToFront(const ZELRecentDocument& document)
+{
+    if (ZELMainWindowController* window = windowOf(document))
+        window->bringToFront();
+}
+
+void ZELAppDelegate::ShowAlertForError(QvxStatus code, const std::string& name)
+{
+    _hasFailed = true;
+    const ZELAlertWords words = AlertWordsForError(code, DisplayText(name));
+    const QString text = QStringList{words.message, words.informative}.join(QLatin1Char(' '));
+    SayProblem(words.message.isEmpty() ? name + ": " + std::string(StatusText(code))
+                                       : text.trimmed().toStdString());
+    showAlert(words);
+}
+
+void ZELAppDelegate::showAlert(const ZELAlertWords& words)
+{
+    if (!isAttended())
+        return;
+    RunAlert(words, QApplication::activeWindow());
+}
+
+void ZELAppDelegate::treeIsReady(std::unique_ptr<ZELDcmTree> tree, const std::string& represented,
+                                 const ZELRecentDocument& document)
+{
+    _hasOpened = true;
+    AppCommands* commands = this;  // a private base
+    _windows.push_back(std::make_unique<ZELMainWindowController>(commands, std::move(tree),
+                                                                 represented, document));
+    ZELMainWindowController* window = _windows.back().get();
+    if (_snapshotPath && _windows.size() == 1)
+        window->whenPainted([this, window] { saveSnapshot(window); });
+    window->show();
+    window->setZelWindowIsReady();
+}
+
+void ZELAppDelegate::saveSnapshot(ZELMainWindowController* window)
+{
+    const bool saved = window->grab().save(*_snapshotPath, "PNG");
+    if (!saved)
+        SayProblem("can't save a picture as " + _snapshotPath->toStdString());
+    QCoreApplication::exit(saved ? 0 : 1);
+}
+
+// --- What windows ask for ------------------------------------------------------------------------
+
+void ZELAppDelegate::openFromDialog()
+{
+    enqueue([this] { _controller.doOpenMenuCommand(); });
+}
+
+void ZELAppDelegate::openPaths(std::vector<std::string> paths)
+{
+    for (std::string& path : paths)
+        enqueue([this, path = std::move(path)] { openPath(path); });
+}
+
+void ZELAppDelegate::openRecent(std::size_t index)
+{
+    enqueue([this, index] { _controller.openZELRecentDoc(index); });
+}
+
+void ZELAppDelegate::windowClosed()
+{
+    enqueue([] {});  // the window goes once its own event is over
+}
+
+// Carried out later: who asks may be a window that goes.
+void ZELAppDelegate::quit()
+{
+    _quits = true;
+    enqueue([this] {
+        applicationShouldTerminate();
+        for (const auto& window : _windows)
+            window->close();
+    });
+}
+
+std::vector<QWidget*> ZELAppDelegate::viewerWindows() const
+{
+    std::vector<QWidget*> open;
+    for (const auto& window : _windows)
+        if (window->isVisible())
+            open.push_back(window.get());
+    return open;
+}
+
+ZELMainWindowController* ZELAppDelegate::topmostViewerWindow() const
+{
+    ZELMainWindowController* found = nullptr;
+    for (const auto& window : _windows)
+        if (window->isVisible() && (!found || window->isActiveWindow()))
+            found = window.get();
+    return found;
+}
+
+void ZELAppDelegate::showHidePreferencesWindow() {}
+void ZELAppDelegate::showPreferencesPane(const char*) {}
+void ZELAppDelegate::offerPreset(float, float) {}
+void ZELAppDelegate::showFirstAidWindow() {}
+void ZELAppDelegate::showHelp() { ShowHelp(QApplication::activeWindow()); }
+void ZELAppDelegate::showAcknowledgments() { ShowAcknowledgments(QApplication::activeWindow()); }
+void ZELAppDelegate::showAbout() { ShowAbout(QApplication::activeWindow()); }

@@ -1,0 +1,35 @@
+// The tool bar of a window: buttons in groups, each the command of a menu. Main thread only.
+#pragma once
+#include "app/window/CommandActions.h"
+
+#include <QToolBar>
+
+class QToolButton;
+
+class MainToolBar final : public QToolBar {
+    Q_OBJECT
+
+public:
+    // What the target points to outlives the bar.
+    explicit MainToolBar(const WindowTarget& target, QWidget* parent = nullptr);
+    // Every button as its command's rule has it now.
+    void updateToolbarElements();
+    // The button that chooses the layout shows this one.
+    void selectLayout(int layout);
+
+private:
+    struct Button {
+        QAction* action;
+        AnyCommand command;
+        bool (*isOn)(const WindowTarget&);  // null: as the command says
+    };
+    void addButton(const Button& button, const char* icon, const char* menuForm);
+    void addReset();
+    void addLayouts();
+    void addStretch();
+
+    WindowTarget _target;
+    std::vector<Button> _buttons;
+    QToolButton* hangingProtocolPopup = nullptr;
+    int _layout = 0;
+};

@@ -1,0 +1,235 @@
+#include "app/window/ZELMainWindowController.h"
+
+#include "app/tools/ZELWWWLTextBoxController.h"
+#include "app/window/AppCommands.h"
+#include "app/window/DocumentIcon.h"
+#include "app/window/DroppedPaths.h"
+#include "app/window/MainToolBar.h"
+#include "app/window/MenuBar.h"
+#include "app/window/PatientPane.h"
+#include "app/window/StatusLine.h"
+#include "app/window/WindowWords.h"
+#include "dicom_core/imaging/LoadFrame.h"
+#include "dicom_core/opening/PathNames.h"
+#include "dicom_core/opening/ZELDcmTree.h"
+#include "dicom_core/tree/dk_SequenceBase.h"
+#include "prefs/Prefs.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QScreen>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kLeastPatients = 174, kMostPatients = 392, kFirstPatients = 260;  // view points
+constexpr int kLeastGrids = 320;
+constexpr QSize kFirstSize(1100, 800);  // view points, where the screen has room
+
+}  // namespace
+
+ZELMainWindowController::ZELMainWindowController(AppCommands* app, std::unique_ptr<ZELDcmTree> tree,
+                                                 const std::string& represented,
+                                                 const ZELRecentDocument& document)
+    : _app(app), _windowDoc(document), _imagesDB(std::move(tree))
+{
+    setWindowTitle(WindowTitleText(DisplayName(represented)));
+    setAcceptDrops(true);
+    _patients = new PatientPane(_imagesDB.get(), windowKey(), this);
+    _patients->doubleClicked = [this](dk_SequenceBase* sequence) {
+        _pane->handleDoubleClickOnSequenceItem(sequence);
+    };
+    _pane = new GridsPane(this, _imagesDB.get(), this);
+    const WindowTarget target{_pane, &_pane->actions(), &_pane->tools(), this};
+    _toolBar = new MainToolBar(target, this);
+    layOut();
+    AddMenuBar(this, target, app, &_pane->boxes()->windowController());
+    setUpBoxes();
+    _pane->targetChanged = [this](dk_SequenceBase* sequence) { targetChanged(sequence); };
+    _toolSelection = NotificationCenter::Default().AddObserver(
+        kNoteSelectedToolDidChange, [this](const Notification&) { updateToolbarElements(); },
+        &_pane->tools());
+    // Queued: labels are not changed while cells are being painted.
+    connect(_pane, &GridsPane::cellsPainted, this, &ZELMainWindowController::onPainted,
+            Qt::QueuedConnection);
+    _pane->view()->becomeFirstResponder();
+    targetChanged(_pane->proxy() ? _pane->proxy()->theSequence() : nullptr);
+}
+
+ZELMainWindowController::~ZELMainWindowController()
+{
+    // What shows sequences goes before what holds them.
+    delete _toolBar;
+    delete _pane;
+    delete _patients;
+    for (dk_SequenceBase* each = _imagesDB->firstSequence_DICOM(); each;
+         each = _imagesDB->nextSequence_DICOMFrom(each))
+        ForgetBufferedFrames(each);
+}
+
+void ZELMainWindowController::layOut()
+{
+    _pane->setAccessibleName(ViewerWord("Picture"));
+    addToolBar(_toolBar);
+    auto* main = new QWidget(this);
+    auto* column = new QVBoxLayout(main);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    infoBarBox = _pane->boxes();
+    column->addWidget(infoBarBox);
+    _split = new QSplitter(main);
+    _split->setChildrenCollapsible(false);
+    _patients->setMinimumWidth(kLeastPatients);
+    _patients->setMaximumWidth(kMostPatients);
+    _pane->setMinimumWidth(kLeastGrids);
+    _split->addWidget(_patients);
+    _split->addWidget(_pane);
+    _split->setStretchFactor(1, 1);
+    column->addWidget(_split, 1);
+    setCentralWidget(main);
+    _status = new StatusLine(this);
+    setStatusBar(_status);
+    infoBarBox->setVisible(prefs_ShowZELToolbarPane() != 2);
+    _patients->setVisible(prefs_ShowPatientListPane());
+    if (!restoreGeometry(prefs_MainWindowGeometry()))
+        resize(kFirstSize.boundedTo(screen()->availableSize() * 0.9));
+    setWindowState(windowState() & ~(Qt::WindowFullScreen | Qt::WindowMinimized));
+    restoreSplit();
+}
+
+void ZELMainWindowController::setUpBoxes()
+{
+    ZELWWWLTextBoxController& values = _pane->boxes()->windowController();
+    values.editPresetsAction = [this] { _app->showPreferencesPane("WWWLPane"); };
+    values.makePresetAction = [this] {
+        if (const ZELSequenceProxy* proxy = _pane->proxy())
+            _app->offerPreset(static_cast<float>(proxy->currentWWBrightness()),
+                              static_cast<float>(proxy->currentWLContrast()));
+    };
+}
+
+void ZELMainWindowController::restoreSplit()
+{
+    const std::vector<int> saved = prefs_MainSplitSizes();
+    if (saved.size() == 2)
+        _split->setSizes({saved.begin(), saved.end()});
+    else
+        _split->setSizes({kFirstPatients, width() - kFirstPatients});
+}
+
+// ---- what the grids tell ----
+
+std::shared_ptr<ZELSequenceProxy> ZELMainWindowController::proxyOf(dk_SequenceBase* sequence)
+{
+    return _patients->proxyOf(sequence);
+}
+
+void ZELMainWindowController::updateNodeForSequence(dk_SequenceBase* sequence)
+{
+    _patients->updateNodeForSequence(sequence);
+}
+
+void ZELMainWindowController::targetChanged(dk_SequenceBase* sequence)
+{
+    _patients->selectRow(sequence);
+    _status->updateFrom(*_pane);
+    updateToolbarElements();
+}
+
+void ZELMainWindowController::updateToolbarElements()
+{
+    if (_toolBar && _pane && !_windowClosing)
+        _toolBar->updateToolbarElements();
+}
+
+void ZELMainWindowController::onPainted()
+{
+    _status->updateFrom(*_pane);
+    _pane->view()->setAccessibleDescription(_status->description());
+    _pane->boxes()->refresh();
+    updateToolbarElements();
+    if (!_painted) {
+        _painted = true;
+        setWindowIcon(DocumentIcon(_windowDoc));  // late: reading icons takes longer than painting
+    }
+    if (_pane->view()->isSettled() && _whenPainted)
+        std::exchange(_whenPainted, nullptr)();
+}
+
+// ---- the life of the window ----
+
+void ZELMainWindowController::bringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
+void ZELMainWindowController::setZelWindowIsReady()
+{
+    _zelWindowIsReady = true;
+    _pane->view()->becomeFirstResponder();
+}
+
+void ZELMainWindowController::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !_windowClosing) {
+        windowDidBecomeKey();
+        postMainWindowChange(false);
+    }
+}
+
+void ZELMainWindowController::windowDidBecomeKey()
+{
+    if (!std::exchange(_firstTimeFlag, false) || !_pane->proxy())
+        return;
+    updateToolbarElements();
+    _pane->navigation().setTargetSequenceFrameTo(_pane->proxy()->currentFrame());
+}
+
+void ZELMainWindowController::postMainWindowChange(bool movingOut)
+{
+    NotificationCenter::Default().Post(
+        kNoteMainWindowChange, windowKey(),
+        {{QLatin1String(kKeyWindow), QVariant::fromValue(const_cast<void*>(windowKey()))},
+         {QLatin1String(kKeyMovingOut), movingOut}});
+}
+
+void ZELMainWindowController::setWindowClosing()
+{
+    _windowClosing = true;
+    _pane->stopAllCines();
+}
+
+void ZELMainWindowController::closeEvent(QCloseEvent* event)
+{
+    QMainWindow::closeEvent(event);
+    if (!_windowClosing || isVisible())
+        windowWillClose();
+    _app->windowClosed();
+}
+
+void ZELMainWindowController::windowWillClose()
+{
+    setWindowClosing();
+    if (_patients->isVisible()) {
+        const QList<int> sizes = _split->sizes();
+        prefs_Set_MainSplitSizes({sizes.begin(), sizes.end()});
+    }
+    prefs_Set_MainWindowGeometry(saveGeometry());
+    postMainWindowChange(true);
+}
+
+void ZELMainWindowController::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!PathsOfDrag(*event->mimeData()).empty())
+        event->acceptProposedAction();
+}
+
+void ZELMainWindowController::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    _app->openPaths(PathsOfDrag(*event->mimeData()));
+}

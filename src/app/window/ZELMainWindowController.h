@@ -1,0 +1,100 @@
+// A window on one opened tree: patients and study at its left, the grids of sequences in their
+// layout, two tool bars, a line that says what is at hand. Files and folders dropped on it are
+// opened. Main thread only.
+#pragma once
+#include "app/window/FullScreenPanes.h"
+#include "app/window/GridsPane.h"
+#include "app/window/WindowCommands.h"
+#include "dicom_core/opening/RecentDocuments.h"
+
+#include <QMainWindow>
+#include <QString>
+#include <functional>
+#include <memory>
+
+class AppCommands;
+class MainToolBar;
+class PatientPane;
+class QSplitter;
+class StatusLine;
+class ZELDcmTree;
+
+class ZELMainWindowController final : public QMainWindow, private GridsWindow, private WindowPanes {
+    Q_OBJECT
+
+public:
+    // `app` outlives the window. `represented` is the path (bytes) that the window is named after.
+    ZELMainWindowController(AppCommands* app, std::unique_ptr<ZELDcmTree> tree,
+                            const std::string& represented, const ZELRecentDocument& document);
+    ~ZELMainWindowController() override;
+
+    [[nodiscard]] const ZELRecentDocument& windowDoc() const { return _windowDoc; }
+    [[nodiscard]] ZELDcmTree& imagesDB() const { return *_imagesDB; }
+    void bringToFront();
+    // The open has ended: slow texts of the list come in, keys go to the active grid.
+    void setZelWindowIsReady();
+    // From now on the window changes nothing any more, and plays nothing.
+    void setWindowClosing();
+    // Calls `painted` once, when the first frame has been painted in its final size.
+    void whenPainted(std::function<void()> painted) { _whenPainted = std::move(painted); }
+    [[nodiscard]] GridsPane* pane() const { return _pane; }
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    // GridsWindow
+    [[nodiscard]] const void* windowKey() const override { return this; }
+    [[nodiscard]] bool zelWindowIsReady() const override { return _zelWindowIsReady; }
+    [[nodiscard]] bool windowIsClosing() const override { return _windowClosing; }
+    [[nodiscard]] std::shared_ptr<ZELSequenceProxy> proxyOf(dk_SequenceBase* sequence) override;
+    void updateNodeForSequence(dk_SequenceBase* sequence) override;
+    // WindowPanes
+    [[nodiscard]] bool hasFeature(Feature feature) const override;
+    [[nodiscard]] MultiGridViewController& multiGridController() const override;
+    [[nodiscard]] bool isInFullScreen() const override { return isFullScreen(); }
+    void zelToggleFullScreen() override;
+    [[nodiscard]] bool showsToolbar() const override;
+    void zelToggleToolbar() override;
+    [[nodiscard]] bool showsPatientList() const override;
+    void showHidePatientList() override;
+    [[nodiscard]] bool showsStudyInfo() const override;
+    void showHideStudyInfo() override;
+    [[nodiscard]] bool showsZELToolbar() const override;
+    void showHideZELToolbar() override;
+    [[nodiscard]] bool showsMeasurementInfoBox() const override { return false; }
+    void showHideMeasurementInfoBox() override {}  // comes with measurements
+    [[nodiscard]] std::vector<dk_SequenceBase*> selectedSequences() const override;
+    void openAdjustColorsDialog() override { _pane->openAdjustColorsDialog(); }
+    void updateToolbarElements() override;
+
+    void layOut();
+    void setUpBoxes();
+    void restoreSplit();
+    void targetChanged(dk_SequenceBase* sequence);
+    void onPainted();
+    void windowDidBecomeKey();
+    void postMainWindowChange(bool movingOut);
+    void windowWillClose();
+    // Runs `change`; the keys go on where they went before it.
+    void keepingFocus(const std::function<void()>& change);
+
+    AppCommands* _app;
+    ZELRecentDocument _windowDoc;
+    std::unique_ptr<ZELDcmTree> _imagesDB;
+    PatientPane* _patients = nullptr;  // a child, which goes after the pane and before the tree
+    GridsPane* _pane = nullptr;
+    MainToolBar* _toolBar = nullptr;
+    QWidget* infoBarBox = nullptr;  // the secondary tool bar
+    QSplitter* _split = nullptr;
+    StatusLine* _status = nullptr;
+    FullScreenPanes _fullScreen{this};
+    NotificationCenter::Observation _toolSelection;
+    std::function<void()> _whenPainted;
+    bool _painted = false;
+    bool _firstTimeFlag = true;  // it has not been the key window yet
+    bool _windowClosing = false, _zelWindowIsReady = false;
+};
