@@ -284,14 +284,14 @@ void ZELAppDelegate::treeIsReady(std::unique_ptr<ZELDcmTree> tree, const std::st
                                                                  represented, document));
     ZELMainWindowController* window = _windows.back().get();
     if (_snapshotPath && _windows.size() == 1)
-        window->whenPainted([this, window] { saveSnapshot(window); });
+        window->whenPainted(!_snapshotPath->isEmpty(), [this, window] { saveSnapshot(window); });
     window->show();
     window->setZelWindowIsReady();
 }
 
 void ZELAppDelegate::saveSnapshot(ZELMainWindowController* window)
 {
-    const bool saved = window->grab().save(*_snapshotPath, "PNG");
+    const bool saved = _snapshotPath->isEmpty() || window->grab().save(*_snapshotPath, "PNG");
     if (!saved)
         SayProblem("can't save a picture as " + _snapshotPath->toStdString());
     QCoreApplication::exit(saved ? 0 : 1);

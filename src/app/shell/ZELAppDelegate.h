@@ -25,7 +25,8 @@ class ZELAppDelegate final : public QObject,
                              private AppCommands {
 public:
     // With a `snapshotPath` nobody is there: no dialogs, no recent documents, no discs. A picture
-    // of the first window goes there and the program ends: with code 0, or 1 if that fails.
+    // of the first window goes there (nowhere for an empty path) and the program ends: with code 0,
+    // or 1 if that fails.
     explicit ZELAppDelegate(std::optional<QString> snapshotPath);
     ~ZELAppDelegate() override;
 

@@ -105,6 +105,30 @@ void GridLayoutView::updateBorders()
     }
 }
 
+void GridLayoutView::showOneAfterTheOther()
+{
+    for (ZELDraggingSequenceGridView* view : _views)
+        view->setShowsCells(&view->sequenceGridController() ==
+                            _grids->activeSequenceGridController());
+    // Queued: by then what was painted is on the screen.
+    connect(this, &GridLayoutView::cellsPainted, this, &GridLayoutView::showNext,
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::UniqueConnection));
+}
+
+bool GridLayoutView::showsAll() const
+{
+    return std::ranges::all_of(_views, &MUPhotoView::showsCells);
+}
+
+void GridLayoutView::showNext()
+{
+    const auto next = std::ranges::find_if_not(_views, &MUPhotoView::showsCells);
+    if (next != _views.end())
+        (*next)->setShowsCells(true);
+    else
+        disconnect(this, &GridLayoutView::cellsPainted, this, &GridLayoutView::showNext);
+}
+
 void GridLayoutView::fitGridDims()
 {
     for (ZELDraggingSequenceGridView* view : _views)

@@ -26,6 +26,10 @@ public:
     }
     // The colour around the active grid's cell; the others have one of their own.
     void updateBorders();
+    // From now on grids show one after the other, the active one first, each painted before the
+    // next one is begun: what the user looks at doesn't wait for the others.
+    void showOneAfterTheOther();
+    [[nodiscard]] bool showsAll() const;
     // Rows and columns of each grid, turned to the form of its view.
     void fitGridDims();
 
@@ -39,6 +43,7 @@ private:
     QSplitter* addSplit(Qt::Orientation orientation);
     void addPart(QSplitter* across, int count, Qt::Orientation along, std::size_t* next);
     void U_FixSplitViewDividers();
+    void showNext();
 
     std::shared_ptr<MultiGridViewController> _grids;
     std::vector<ZELDraggingSequenceGridView*> _views;  // children, in the order of their grids

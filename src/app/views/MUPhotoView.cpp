@@ -56,8 +56,18 @@ bool MUPhotoView::eventFilter(QObject* watched, QEvent* event)
     return QAbstractScrollArea::eventFilter(watched, event);
 }
 
+void MUPhotoView::setShowsCells(bool shows)
+{
+    _showsCells = shows;
+    viewport()->update();
+}
+
 void MUPhotoView::paintEvent(QPaintEvent* event)
 {
+    if (!_showsCells) {
+        QPainter(viewport()).fillRect(event->rect(), Qt::black);
+        return;
+    }
     // The window may have come to a screen of another scale factor.
     const GridViewport* shown = cells();
     if (shown && shown->pixelRatio() != viewport()->devicePixelRatioF())

@@ -17,6 +17,9 @@ public:
 
     // No resizing is going on, during which photos may show in a lower quality.
     [[nodiscard]] bool isSettled() const { return !_liveResize.isActive(); }
+    // Off: the view stays black, until its turn comes.
+    void setShowsCells(bool shows);
+    [[nodiscard]] bool showsCells() const { return _showsCells; }
     // Paints what of the matrix shows in `dirty`, a part of the visible area, whose top left corner
     // is the painter's origin.
     virtual void drawRect(QPainter* painter, const QRectF& dirty) = 0;
@@ -49,6 +52,7 @@ private:
     void layOutScrollBar();
 
     WheelSteps _wheel;
+    bool _showsCells = true;
     bool _syncing = false;  // the scroll bar follows the cells
     QTimer _liveResize;     // runs while sizes keep changing
 };

@@ -20,6 +20,7 @@ GridsPane::GridsPane(GridsWindow* window, ZELDcmTree* tree, QWidget* parent)
     auto* box = new QVBoxLayout(this);
     box->setContentsMargins({});
     switchToSequenceViewWithID(LayoutForOpening(*tree), false);
+    _layout->showOneAfterTheOther();
     _boxes = new ViewerBoxes(this, &_actions);
     _boxes->windowController().openAdjustColorsDialog = [this] { openAdjustColorsDialog(); };
     connect(_boxes, &ViewerBoxes::done, this, [this] { view()->setFocus(); });

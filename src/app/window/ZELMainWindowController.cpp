@@ -15,6 +15,7 @@
 #include "dicom_core/tree/dk_SequenceBase.h"
 #include "prefs/Prefs.h"
 
+#include "qpix/zelImageSource.h"
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QScreen>
@@ -34,6 +35,9 @@ ZELMainWindowController::ZELMainWindowController(AppCommands* app, std::unique_p
                                                  const ZELRecentDocument& document)
     : _app(app), _windowDoc(document), _imagesDB(std::move(tree))
 {
+    // Titles, rules and the first picture all ask its file, which is read once for them.
+    if (dk_SequenceBase* first = _imagesDB->firstGoodSequence_DICOM())
+        _firstFile = std::make_unique<zelParserVisit>(first->GetImageFrameInfo(1)->fSource);
     setWindowTitle(WindowTitleText(DisplayName(represented)));
     setAcceptDrops(true);
     _patients = new PatientPane(_imagesDB.get(), windowKey(), this);
@@ -59,6 +63,7 @@ ZELMainWindowController::ZELMainWindowController(AppCommands* app, std::unique_p
 
 ZELMainWindowController::~ZELMainWindowController()
 {
+    _firstFile.reset();
     // What shows sequences goes before what holds them.
     delete _toolBar;
     delete _pane;
@@ -151,9 +156,11 @@ void ZELMainWindowController::onPainted()
     updateToolbarElements();
     if (!_painted) {
         _painted = true;
+        _firstFile.reset();
         setWindowIcon(DocumentIcon(_windowDoc));  // late: reading icons takes longer than painting
     }
-    if (_pane->view()->isSettled() && _whenPainted)
+    const bool wholly = _pane->view()->isSettled() && _pane->layoutView()->showsAll();
+    if ((wholly || !_wholly) && _whenPainted)
         std::exchange(_whenPainted, nullptr)();
 }
 

@@ -18,6 +18,7 @@ class PatientPane;
 class QSplitter;
 class StatusLine;
 class ZELDcmTree;
+class zelParserVisit;
 
 class ZELMainWindowController final : public QMainWindow, private GridsWindow, private WindowPanes {
     Q_OBJECT
@@ -35,8 +36,13 @@ public:
     void setZelWindowIsReady();
     // From now on the window changes nothing any more, and plays nothing.
     void setWindowClosing();
-    // Calls `painted` once, when the first frame has been painted in its final size.
-    void whenPainted(std::function<void()> painted) { _whenPainted = std::move(painted); }
+    // Calls `painted` once: when the first frame has been painted, or, with `wholly`, all of them
+    // in their final size.
+    void whenPainted(bool wholly, std::function<void()> painted)
+    {
+        _whenPainted = std::move(painted);
+        _wholly = wholly;
+    }
     [[nodiscard]] GridsPane* pane() const { return _pane; }
 
 protected:
@@ -93,8 +99,9 @@ private:
     StatusLine* _status = nullptr;
     FullScreenPanes _fullScreen{this};
     NotificationCenter::Observation _toolSelection;
+    std::unique_ptr<zelParserVisit> _firstFile;  // until the first frame has been painted
     std::function<void()> _whenPainted;
-    bool _painted = false;
+    bool _painted = false, _wholly = true;
     bool _firstTimeFlag = true;  // it has not been the key window yet
     bool _windowClosing = false, _zelWindowIsReady = false;
 };

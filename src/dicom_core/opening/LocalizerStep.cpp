@@ -3,6 +3,7 @@
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "prefs/Prefs.h"
 
+#include "qpix/zelImageSource.h"
 #include <memory>
 #include <utility>
 
@@ -12,10 +13,12 @@ namespace {
 dk_Sequence* SequenceToSplit(dk_SequenceBase* sequence)
 {
     auto* whole = dynamic_cast<dk_Sequence*>(sequence);
-    const bool splits = whole && Modality_SupportsLocalizers(whole->GetModality()) &&
-                        whole->IsGood() && whole->HasLocalizerFrames() &&
-                        !whole->IsLocalizerSequence();
-    return splits ? whole : nullptr;
+    if (!whole || !Modality_SupportsLocalizers(whole->GetModality()) || !whole->IsGood())
+        return nullptr;
+    // Both questions begin with the first file, which is read once for them.
+    const dk_ImageFrameInfo* first = whole->GetImageFrameInfo(1);
+    const zelParserVisit visit(first ? first->fSource : nullptr);
+    return whole->HasLocalizerFrames() && !whole->IsLocalizerSequence() ? whole : nullptr;
 }
 
 // The normal frames stay in the series, the localizers get a series of their own behind it, which
