@@ -1,5 +1,8 @@
 #include "prefs/PrefsTables.h"
 
+#include <atomic>
+#include <mutex>
+
 namespace {
 
 constexpr std::size_t kEntries = 256;
@@ -26,9 +29,25 @@ ZELColorRamp RampOf(const ColorTable& table)
     return ramp;
 }
 
+std::atomic<CLUTLoader> gLoader{nullptr};
+
+// Whoever comes first loads what is still to be loaded; others wait for it.
+const std::vector<LoadedTable>& AskedTables()
+{
+    if (gLoader.load()) {
+        static std::mutex loading;
+        const std::lock_guard lock(loading);
+        if (const CLUTLoader load = gLoader.load()) {
+            prefs_SetCLUTs(load());
+            gLoader = nullptr;
+        }
+    }
+    return Tables();
+}
+
 const LoadedTable* TableOf(int number)
 {
-    const std::vector<LoadedTable>& tables = Tables();
+    const std::vector<LoadedTable>& tables = AskedTables();
     if (number < 1 || number > prefs_GetNumberOfCLUTs())
         return nullptr;
     return &tables[static_cast<std::size_t>(number) - 1];
@@ -46,7 +65,9 @@ void prefs_SetCLUTs(std::vector<ZELCLUT> tables)
     }
 }
 
-int prefs_GetNumberOfCLUTs() { return static_cast<int>(Tables().size()); }
+void prefs_SetCLUTLoader(CLUTLoader load) { gLoader = load; }
+
+int prefs_GetNumberOfCLUTs() { return static_cast<int>(AskedTables().size()); }
 
 const ColorTable* prefs_GetColorSpecs(int number)
 {

@@ -20,6 +20,11 @@ struct ZELCLUT {
 // has none.
 void prefs_SetCLUTs(std::vector<ZELCLUT> tables);
 
+// The same when the first of them is asked for, on whichever thread: reading them takes as long as
+// reading a folder of images.
+using CLUTLoader = std::vector<ZELCLUT> (*)();
+void prefs_SetCLUTLoader(CLUTLoader load);
+
 [[nodiscard]] int prefs_GetNumberOfCLUTs();
 // Null for a number below 1 or above the last, or when no tables are set. Valid until the tables
 // are set anew.

@@ -95,7 +95,7 @@ void ZELAppDelegate::applicationDidFinishLaunching()
     _baseBuffer = std::make_unique<zel_ImageBuffer>();
     _baseBuffer->SetIOBufferSize(kBaseBufferIOBytes);
     gAppBaseBuffer = _baseBuffer.get();
-    prefs_SetCLUTs(loadCLUTTables());
+    prefs_SetCLUTLoader(loadCLUTTables);
     InstallSequenceAnnotations();
 }
 

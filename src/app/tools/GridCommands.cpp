@@ -341,6 +341,8 @@ GridCommandState StateOfGridCommand(GridCommand command, const GridTarget& targe
     return {TitleOf(row, target, on), row.shortcut, IsEnabled(row, target), on && !row.titleOn};
 }
 
+const char* ShortcutOfGridCommand(GridCommand command) { return RowOf(command).shortcut; }
+
 void PerformGridCommand(GridCommand command, const GridTarget& target, bool option)
 {
     const Row& row = RowOf(command);

@@ -66,5 +66,6 @@ struct GridCommandState {
     bool enabled, checked;
 };
 [[nodiscard]] GridCommandState StateOfGridCommand(GridCommand command, const GridTarget& target);
+[[nodiscard]] const char* ShortcutOfGridCommand(GridCommand command);  // asks no rule
 // Nothing when it can't be chosen (any more). `option`: the key is held while it is chosen.
 void PerformGridCommand(GridCommand command, const GridTarget& target, bool option = false);

@@ -55,6 +55,7 @@ NumberBox* ViewerBoxes::addBox(const char* name, NumberBox::Controller controlle
     box->field()->setToolTip(word);
     if (box->menuButton())
         box->menuButton()->setAccessibleName(word);
+    box->menuButton()->setToolTip(word);
     connect(box, &NumberBox::done, this, &ViewerBoxes::done);
     layout()->addWidget(box);
     return box;

@@ -41,6 +41,13 @@ WindowCommandState StateOf(const AnyCommand& command, const WindowTarget& target
             state.enabled, state.checked ? Mark::On : Mark::None};
 }
 
+const char* ShortcutOf(const AnyCommand& command)
+{
+    if (const auto* window = std::get_if<WindowCommand>(&command.command))
+        return ShortcutOfWindowCommand(*window, command.tag);
+    return ShortcutOfGridCommand(std::get<GridCommand>(command.command));
+}
+
 void Perform(const AnyCommand& command, const WindowTarget& target, bool option)
 {
     WindowTarget tagged = target;
@@ -63,9 +70,9 @@ void UpdateAction(QAction* action, const WindowCommandState& state)
 
 QAction* AddCommandAction(QMenu* menu, const AnyCommand& command, const WindowTarget& target)
 {
-    const WindowCommandState first = StateOf(command, target);
-    QAction* action = menu->addAction(MenuText(first.title));
-    if (const QKeySequence key(QString::fromLatin1(first.shortcut)); IsKeyOfGrids(key))
+    // What it is called is asked when it shows: rules may have to read files.
+    QAction* action = menu->addAction(QString());
+    if (const QKeySequence key(QString::fromLatin1(ShortcutOf(command))); IsKeyOfGrids(key))
         action->setData(key.toString(QKeySequence::NativeText));
     else
         action->setShortcut(key);

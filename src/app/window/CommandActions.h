@@ -14,6 +14,7 @@ struct AnyCommand {
     int tag = 0;
 };
 [[nodiscard]] WindowCommandState StateOf(const AnyCommand& command, const WindowTarget& target);
+[[nodiscard]] const char* ShortcutOf(const AnyCommand& command);  // or null
 // `option`: the key is held.
 void Perform(const AnyCommand& command, const WindowTarget& target, bool option);
 

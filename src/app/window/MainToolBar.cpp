@@ -39,6 +39,11 @@ bool ShowsLines(const T& t)
 {
     return t.panes->multiGridController().localizers().toolbarSegment().on;
 }
+bool IsPlaying(const T& t)
+{
+    const auto* grid = t.host->activeSequenceGridController();
+    return grid && grid->cineModeIsON();
+}
 bool ShowsMeasurements(const T& t) { return t.panes->showsMeasurementInfoBox(); }
 
 // One item of the bar, which may have several buttons; an empty one is a separator.
@@ -88,7 +93,7 @@ const std::vector<Item>& Items()
         {"OverlaysTB", {{{G::SwitchOverlays}, "tool_overlays", "Overlays", ShowsOverlays}}},
         {"LocalizersTB", {{{W::ReferenceLines}, "tool_localizers", "Reference Lines", ShowsLines}}},
         {},
-        {"CineTB", {{{G::PlayCine}, "tool_cine", "Play Cine"}}},
+        {"CineTB", {Item::Button{{G::PlayCine}, "tool_cine", "Play Cine", IsPlaying}}},
         {"FlexibleSpace", {}},
         {"MeasureTB", {{{W::MeasurementPane}, "tool_measure", "Measure", ShowsMeasurements}}},
     };
@@ -125,7 +130,6 @@ MainToolBar::MainToolBar(const WindowTarget& target, QWidget* parent)
     }
     for (QToolButton* button : findChildren<QToolButton*>())
         button->setFocusPolicy(Qt::TabFocus);  // a click leaves the keys where they are
-    updateToolbarElements();
 }
 
 void MainToolBar::addButton(const Button& button, const char* icon, const char* menuForm)

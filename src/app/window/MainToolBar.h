@@ -10,7 +10,8 @@ class MainToolBar final : public QToolBar {
     Q_OBJECT
 
 public:
-    // What the target points to outlives the bar.
+    // What the target points to outlives the bar, whose buttons know nothing before the first
+    // update.
     explicit MainToolBar(const WindowTarget& target, QWidget* parent = nullptr);
     // Every button as its command's rule has it now.
     void updateToolbarElements();

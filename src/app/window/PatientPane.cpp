@@ -1,6 +1,7 @@
 #include "app/window/PatientPane.h"
 
 #include "app/views/SequenceMime.h"
+#include "app/window/WindowWords.h"
 #include "dicom_core/opening/ZELDcmTree.h"
 
 #include <QHeaderView>
@@ -14,6 +15,7 @@ PatientPane::PatientPane(ZELDcmTree* tree, const void* window, QWidget* parent)
     box->setContentsMargins({});
     box->addWidget(_list);
     _list->setModel(&_sequences);
+    _list->setAccessibleName(ViewerWord("Sequences"));
     _list->setUniformRowHeights(true);
     _list->setDragEnabled(true);
     _list->setFocusPolicy(Qt::TabFocus);

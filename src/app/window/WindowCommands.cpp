@@ -394,9 +394,15 @@ WindowCommandState StateOfWindowCommand(WindowCommand command, const WindowTarge
 {
     const Row& row = RowOf(command);
     const bool on = row.isOn && row.isOn(target);
-    const ToolRow* tool = row.title ? nullptr : ToolRowOf(target.tag);
-    return {TitleOf(row, target, on), tool ? tool->shortcut : row.shortcut, IsEnabled(row, target),
-            MarkOf(row, on)};
+    return {TitleOf(row, target, on), ShortcutOfWindowCommand(command, target.tag),
+            IsEnabled(row, target), MarkOf(row, on)};
+}
+
+const char* ShortcutOfWindowCommand(WindowCommand command, int tag)
+{
+    const Row& row = RowOf(command);
+    const ToolRow* tool = row.title ? nullptr : ToolRowOf(tag);
+    return tool ? tool->shortcut : row.shortcut;
 }
 
 void PerformWindowCommand(WindowCommand command, const WindowTarget& target)

@@ -67,6 +67,7 @@ struct WindowCommandState {
 };
 [[nodiscard]] WindowCommandState StateOfWindowCommand(WindowCommand command,
                                                       const WindowTarget& target);
+[[nodiscard]] const char* ShortcutOfWindowCommand(WindowCommand command, int tag);  // asks no rule
 // Nothing when it can't be chosen (any more).
 void PerformWindowCommand(WindowCommand command, const WindowTarget& target);
 

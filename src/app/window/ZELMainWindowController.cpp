@@ -144,7 +144,8 @@ void ZELMainWindowController::targetChanged(dk_SequenceBase* sequence)
 
 void ZELMainWindowController::updateToolbarElements()
 {
-    if (_toolBar && _pane && !_windowClosing)
+    // Not before the first frame is seen: rules may have to read all files of a sequence.
+    if (_painted && !_windowClosing)
         _toolBar->updateToolbarElements();
 }
 
@@ -153,14 +154,15 @@ void ZELMainWindowController::onPainted()
     _status->updateFrom(*_pane);
     _pane->view()->setAccessibleDescription(_status->description());
     _pane->boxes()->refresh();
-    updateToolbarElements();
-    if (!_painted) {
-        _painted = true;
+    if (!std::exchange(_painted, true)) {
         _firstFile.reset();
         setWindowIcon(DocumentIcon(_windowDoc));  // late: reading icons takes longer than painting
     }
     const bool wholly = _pane->view()->isSettled() && _pane->layoutView()->showsAll();
-    if ((wholly || !_wholly) && _whenPainted)
+    if (!_wholly && _whenPainted)
+        std::exchange(_whenPainted, nullptr)();
+    updateToolbarElements();
+    if (wholly && _whenPainted)
         std::exchange(_whenPainted, nullptr)();
 }
 

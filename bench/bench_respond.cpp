@@ -1,0 +1,93 @@
+// While a folder of 2,000 files opens: how long the program ever leaves its events waiting, and how
+// long the button that cancels needs.
+//   bench_respond
+#include "CTFiles.h"
+#include "PairedRatio.h"
+#include "app/shell/OpenProgressWindow.h"
+#include "app/shell/ZELAppDelegate.h"
+#include "app/window/ZELMainWindowController.h"
+#include "platform/PreferenceStore.h"
+#include "prefs/Prefs.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+constexpr double kLimit = 50;  // ms
+
+// Ticks as often as the event loop comes round, and keeps the longest pause.
+class Pulse {
+public:
+    Pulse()
+    {
+        fTimer.setInterval(0);
+        QObject::connect(&fTimer, &QTimer::timeout, [this] {
+            fLongest = std::max(fLongest, static_cast<double>(fSince.nsecsElapsed()) / 1e6);
+            fSince.start();
+        });
+        fSince.start();
+        fTimer.start();
+    }
+    [[nodiscard]] double Longest() const { return fLongest; }
+
+private:
+    QTimer fTimer;
+    QElapsedTimer fSince;
+    double fLongest = 0;  // ms
+};
+
+bool HasWindow()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (qobject_cast<ZELMainWindowController*>(widget) && widget->isVisible())
+            return true;
+    }
+    return false;
+}
+
+struct Pauses {
+    double opening = 0, all = 0;  // ms: until the window is made, and until it has been painted
+};
+
+Pauses OpenOnce(const std::string& folder)
+{
+    ZELAppDelegate program{QString()};
+    Pulse pulse;
+    Pauses longest;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (!HasWindow())
+            longest.opening = pulse.Longest();
+    });
+    watch.start(0);
+    program.start({folder});
+    QApplication::exec();
+    longest.all = pulse.Longest();
+    return longest;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    TempFolder folder;
+    prefs_Store().UseFile(folder.Path("preferences.plist"));
+    MakeFiles(folder, 2000, 64);
+    std::vector<double> opening, all;
+    for (int i = 0; i < kPairs; ++i) {
+        const Pauses longest = OpenOnce(folder.Path(""));
+        opening.push_back(longest.opening);
+        all.push_back(longest.all);
+    }
+    const double worst = *std::max_element(opening.begin(), opening.end());
+    const bool held = worst <= kLimit;
+    std::printf(
+        "longest pause while 2,000 files open: median %.1f ms, worst %.1f ms, limit %.0f: %s\n",
+        MedianOf(opening), worst, kLimit, held ? "held" : "NOT HELD");
+    std::printf("longest pause with the making of the window: median %.1f ms\n", MedianOf(all));
+    return held ? 0 : 1;
+}

@@ -1,0 +1,208 @@
+// A whole window on a made tree: bars and menus agree, panes come and go, everything has a name.
+#include "app/grid/GridFixture.h"
+#include "app/window/AppCommands.h"
+#include "app/window/MainToolBar.h"
+#include "app/window/ZELMainWindowController.h"
+#include "dicom_core/opening/RecentDocuments.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+
+class FakeApp final : public AppCommands {
+public:
+    void openFromDialog() override { log.push_back("open"); }
+    void openPaths(std::vector<std::string> paths) override
+    {
+        for (const std::string& path : paths)
+            log.push_back("path " + path);
+    }
+    void openRecent(std::size_t index) override
+    {
+        log.push_back("recent " + std::to_string(index));
+    }
+    ZELRecentDocuments& recents() override { return documents; }
+    void windowClosed() override { log.push_back("closed"); }
+    void quit() override { log.push_back("quit"); }
+    void showHidePreferencesWindow() override { log.push_back("preferences"); }
+    void showPreferencesPane(const char* pane) override { log.emplace_back(pane); }
+    void offerPreset(float width, float level) override
+    {
+        log.push_back("preset " + std::to_string(width) + " " + std::to_string(level));
+    }
+    void showHelp() override { log.push_back("help"); }
+    void showAcknowledgments() override { log.push_back("acknowledgments"); }
+    void showAbout() override { log.push_back("about"); }
+    void showFirstAidWindow() override { log.push_back("first aid"); }
+    bool hasUpdateCheck() const override { return false; }
+    void checkForUpdates() override {}
+    std::vector<QWidget*> viewerWindows() const override { return {}; }
+
+    ZELRecentDocuments documents;
+    Words log;
+};
+
+struct OpenWindow {
+    explicit OpenWindow(
+        const std::vector<SeriesForm>& forms = {{}, {.frames = 3}, {.frames = 2}},
+        const std::function<void()>& prepare = [] {})
+        : made(forms)
+    {
+        prefs_Set_ShowsUSRegions(false);
+        prepare();
+        auto tree = std::make_unique<ZELDcmTree>();
+        while (dk_DicomBaseElem* patient = made.tree.patientTreeRoot()->GetFirstChild())
+            tree->patientTreeRoot()->AddChild(made.tree.patientTreeRoot()->RemoveChild(patient));
+        window = std::make_unique<ZELMainWindowController>(&app, std::move(tree), "/tmp/study",
+                                                           ZELRecentDocument{1, "/tmp/study", {}});
+        window->resize(900, 640);
+        window->show();
+        window->setZelWindowIsReady();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window->pane()->layoutView()->showsAll(); }));
+        QTest::qWait(20);
+    }
+    [[nodiscard]] QAction* Action(const QString& title)
+    {
+        for (QMenu* menu : window->menuBar()->findChildren<QMenu*>()) {
+            emit menu->aboutToShow();
+            for (QAction* action : menu->actions()) {
+                if (action->text().section(u'\t', 0, 0) == title)
+                    return action;
+            }
+        }
+        return nullptr;
+    }
+    void Choose(const QString& title)
+    {
+        QAction* action = Action(title);
+        ASSERT_TRUE(action) << title.toStdString();
+        action->trigger();
+    }
+    [[nodiscard]] QAction* Button(const char* icon)
+    {
+        return window->findChild<MainToolBar*>()->findChild<QAction*>(QLatin1String(icon));
+    }
+
+    MadeTree made;
+    FakeApp app;
+    std::unique_ptr<ZELMainWindowController> window;
+};
+
+TEST(MainWindow, opens_the_layout_that_its_sequences_fill)
+{
+    struct Row {
+        int wish;
+        std::size_t sequences;
+        int layout;
+    };
+    for (const Row& row : {Row{0, 1, 651}, Row{0, 2, 653}, Row{0, 3, 656}, Row{0, 4, 664},
+                           Row{664, 2, 653}, Row{652, 3, 652}}) {
+        OpenWindow open(std::vector<SeriesForm>(row.sequences, SeriesForm{.frames = 1}),
+                        [&] { prefs_Set_SequenceInitialGridArrangement(row.wish); });
+        EXPECT_EQ(open.window->pane()->protocolItemTag(), row.layout)
+            << row.wish << " " << row.sequences;
+    }
+}
+
+TEST(MainWindow, keeps_the_active_sequence_when_grids_go)
+{
+    OpenWindow open;
+    GridsPane& pane = *open.window->pane();
+    pane.activateGrid(*pane.gridControllers()[1]);
+    const dk_SequenceBase* active = pane.proxy()->theSequence();
+    open.Choose(QStringLiteral("Single"));
+    ASSERT_EQ(pane.gridControllers().size(), 1u);
+    EXPECT_EQ(pane.proxy()->theSequence(), active);
+}
+
+TEST(MainWindow, panes_come_and_go_and_are_remembered)
+{
+    OpenWindow open;
+    const auto focus = [&] { return open.window->focusWidget(); };
+    const QWidget* before = focus();
+    open.Choose(QStringLiteral("Hide Patient List"));
+    EXPECT_FALSE(prefs_ShowPatientListPane());
+    EXPECT_EQ(focus(), before);
+    EXPECT_FALSE(open.Action(QStringLiteral("Show Study Info"))->isEnabled());
+    open.Choose(QStringLiteral("Hide Secondary Toolbar"));
+    EXPECT_EQ(prefs_ShowZELToolbarPane(), 2);
+    open.Choose(QStringLiteral("Show Patient List"));
+    open.Choose(QStringLiteral("Show Secondary Toolbar"));
+    EXPECT_TRUE(prefs_ShowPatientListPane());
+    EXPECT_EQ(prefs_ShowZELToolbarPane(), 1);
+}
+
+TEST(MainWindow, buttons_follow_what_menus_and_keys_do)
+{
+    OpenWindow open;
+    EXPECT_FALSE(open.Button("tool_reset")->isEnabled());
+    open.Choose(QStringLiteral("Invert"));
+    QTest::qWait(30);
+    EXPECT_TRUE(open.Button("tool_invert")->isChecked());
+    EXPECT_TRUE(open.Button("tool_reset")->isEnabled());
+    open.Button("tool_reset")->trigger();
+    QTest::qWait(30);
+    EXPECT_FALSE(open.Button("tool_invert")->isChecked());
+    QTest::keyClick(open.window->pane()->view(), Qt::Key_P);
+    EXPECT_TRUE(open.Button("tool_pan")->isChecked());
+    EXPECT_FALSE(open.Button("tool_window")->isChecked());
+    EXPECT_FALSE(open.Button("tool_crop")->isEnabled());
+    EXPECT_FALSE(open.Button("tool_measure")->isEnabled());
+}
+
+// In a hidden menu bar they would go dead.
+TEST(MainWindow, keys_work_in_full_screen)
+{
+    OpenWindow open;
+    open.Choose(QStringLiteral("Enter Full Screen"));
+    EXPECT_TRUE(open.window->isFullScreen());
+    open.window->menuBar()->hide();
+    QTest::keyClick(open.window->pane()->view(), Qt::Key_I, Qt::ControlModifier);
+    EXPECT_TRUE(open.window->pane()->proxy()->currentFrameIsInverted());
+    QTest::keyClick(open.window->pane()->view(), Qt::Key_F11);
+    EXPECT_FALSE(open.window->isFullScreen());
+}
+
+TEST(MainWindow, tells_when_it_comes_and_goes)
+{
+    OpenWindow open;
+    std::vector<bool> goings;
+    const auto watch = NotificationCenter::Default().AddObserver(
+        kNoteMainWindowChange, [&](const Notification& note) {
+            goings.push_back(note.userInfo.value(QLatin1String(kKeyMovingOut)).toBool());
+        });
+    open.window->close();
+    EXPECT_EQ(goings, std::vector<bool>{true});
+    EXPECT_EQ(open.app.log, Words{"closed"});
+    EXPECT_EQ(prefs_MainSplitSizes().size(), 2u);
+}
+
+// For those who can't see it, or use no mouse.
+TEST(MainWindow, every_control_has_a_name_and_every_button_a_tip)
+{
+    OpenWindow open;
+    for (const QWidget* widget : open.window->findChildren<QWidget*>()) {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        const bool internal = widget->objectName().startsWith(QLatin1String("qt_")) ||
+                              widget->inherits("QHeaderView");
+        const bool edits = qobject_cast<const QLineEdit*>(widget) ||
+                           qobject_cast<const QAbstractItemView*>(widget);
+        if (internal || !(button || edits) || !widget->isVisible())
+            continue;
+        const QString name = button && widget->accessibleName().isEmpty()
+                                 ? button->text()
+                                 : widget->accessibleName();
+        EXPECT_FALSE(name.isEmpty()) << widget->metaObject()->className() << " in "
+                                     << widget->parentWidget()->metaObject()->className();
+        EXPECT_FALSE(button && widget->toolTip().isEmpty())
+            << widget->metaObject()->className() << " " << name.toStdString();
+    }
+}
+
+}  // namespace
