@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QToolButton>
 
 namespace {
 
@@ -53,9 +54,10 @@ NumberBox* ViewerBoxes::addBox(const char* name, NumberBox::Controller controlle
     const QString word = ZelWord(kWordsMenuItems, name);
     box->field()->setAccessibleName(word);
     box->field()->setToolTip(word);
-    if (box->menuButton())
-        box->menuButton()->setAccessibleName(word);
-    box->menuButton()->setToolTip(word);
+    if (QToolButton* button = box->menuButton()) {
+        button->setAccessibleName(word);
+        button->setToolTip(word);
+    }
     connect(box, &NumberBox::done, this, &ViewerBoxes::done);
     layout()->addWidget(box);
     return box;
