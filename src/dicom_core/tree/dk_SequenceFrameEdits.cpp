@@ -15,11 +15,7 @@ void OnFrames(dk_SequenceFrameInfo* table, std::int32_t frame, Edit edit)
     }
 }
 
-bool WindowChanged(const zel_TransformRec& transform)
-{
-    return transform.voiWidth != transform.voiWidthOriginal ||
-           transform.voiLevel != transform.voiLevelOriginal;
-}
+bool WindowChanged(const zel_TransformRec& transform) { return !transform.IsVOIAtOriginals(); }
 
 void RevertWindow(zel_TransformRec* transform)
 {
