@@ -324,6 +324,11 @@ void ZELAppDelegate::windowClosed()
 void ZELAppDelegate::quit()
 {
     _quits = true;
+    _controller.cancelOpen();
+    while (QWidget* modal = QApplication::activeModalWidget()) {
+        if (!modal->close())
+            break;
+    }
     enqueue([this] {
         applicationShouldTerminate();
         for (const auto& window : _windows)

@@ -18,6 +18,8 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QUrl>
+#include <csignal>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace {
@@ -48,6 +50,7 @@ protected:
     int Run(std::vector<std::string> paths, std::vector<std::function<bool()>> steps)
     {
         ZELAppDelegate application(std::nullopt);
+        delegate = &application;
         QTimer stepping;
         std::size_t next = 0;
         QObject::connect(&stepping, &QTimer::timeout, [&] {
@@ -72,6 +75,7 @@ protected:
         return folder.WriteFile(name, SmallImage(words));
     }
     TempFolder folder;
+    ZELAppDelegate* delegate = nullptr;  // while it runs
 };
 
 bool CloseAlert(const QString& part)
@@ -209,4 +213,93 @@ TEST_F(ViewerSession, a_drop_opens_another_window_and_a_row_shows_its_sequence)
         return false;
     };
     EXPECT_EQ(Run({first}, {drop, choose}), 0);
+}
+
+TEST_F(ViewerSession, a_request_of_the_system_ends_it_as_its_menu_does)
+{
+    const std::string first = Image("first");
+    const auto ask = [] {
+        if (Showing<ZELMainWindowController>().empty())
+            return false;
+        std::raise(SIGTERM);
+        return true;
+    };
+    EXPECT_EQ(Run({first}, {ask}), 0);
+    // Within an alert too.
+    const auto askInAlert = [] {
+        if (Showing<QMessageBox>().empty())
+            return false;
+        std::raise(SIGTERM);
+        return true;
+    };
+    EXPECT_EQ(Run({folder.WriteFile("bad.dcm", "no DICOM")}, {askInAlert}), 1);
+}
+
+TEST_F(ViewerSession, windows_may_close_while_another_path_is_opened)
+{
+    const std::string first = Image("first");
+    for (int i = 0; i < 200; ++i)
+        Image("many/" + std::to_string(i), {.instance = "1.7." + std::to_string(i)});
+    const auto closeAndOpen = [&] {
+        const auto windows = Showing<ZELMainWindowController>();
+        if (windows.empty())
+            return false;
+        delegate->takeOver({folder.Path("many")});
+        QTimer::singleShot(0, windows.front(), &QWidget::close);
+        return true;
+    };
+    const auto closeSecond = [] {
+        for (ZELMainWindowController* window : Showing<ZELMainWindowController>()) {
+            if (window->windowTitle().contains(QLatin1String("many")))
+                return window->close();
+        }
+        return false;
+    };
+    EXPECT_EQ(Run({first}, {closeAndOpen, closeSecond}), 0);
+}
+
+// A disc that was taken out, a share that is gone.
+TEST_F(ViewerSession, files_that_vanish_while_shown_leave_their_windows_usable)
+{
+    for (int i = 1; i <= 9; ++i)
+        Image("disc/" + std::to_string(i), {.instance = "1.7." + std::to_string(i)});
+    const auto page = [&] {
+        const auto windows = Showing<ZELMainWindowController>();
+        if (windows.empty() || !windows.front()->pane()->layoutView()->showsAll())
+            return false;
+        std::filesystem::remove_all(folder.Path("disc"));
+        GridsPane& pane = *windows.front()->pane();
+        for (int frame = 1; frame <= 9; ++frame) {
+            pane.grid().gotoFrame(FrameStep::Next);
+            pane.grid().removeFrameBuffersForAllFrames();
+            pane.view()->viewport()->repaint();
+            pane.actions().invertColorsForView(pane.grid(), 0);
+            windows.front()->grab();
+        }
+        return windows.front()->close();
+    };
+    EXPECT_EQ(Run({folder.Path("disc")}, {page}), 0);
+}
+
+TEST_F(ViewerSession, counts_its_starts_and_hears_of_other_starts)
+{
+    const std::string first = Image("first"), second = Image("second", {.patient = "Q"});
+    const int before = prefs_NumberOfRuns_Current();
+    const auto another = [&] {
+        if (Showing<ZELMainWindowController>().empty())
+            return false;
+        delegate->takeOver({second});
+        delegate->takeOver({});
+        return true;
+    };
+    const auto both = [] {
+        const auto windows = Showing<ZELMainWindowController>();
+        if (windows.size() < 2)
+            return false;
+        for (ZELMainWindowController* window : windows)
+            window->close();
+        return true;
+    };
+    EXPECT_EQ(Run({first}, {another, both}), 0);
+    EXPECT_EQ(prefs_NumberOfRuns_Current(), before + 1);
 }
