@@ -945,11 +945,11 @@
     </message>
     <message>
         <source>Traverse marked</source>
-        <translation>Go to marked series only</translation>
+        <translation>Go on to marked series only</translation>
     </message>
     <message>
         <source>Traverse marked tip</source>
-        <translation>Next and previous series leave out those without a mark</translation>
+        <translation>When cine goes through all series, those without a mark are left out</translation>
     </message>
     <message>
         <source>Text and grids</source>
@@ -1008,14 +1008,6 @@
         <translation>Color of the inside of new measurements</translation>
     </message>
     <message>
-        <source>Selection color</source>
-        <translation>Selected</translation>
-    </message>
-    <message>
-        <source>Selection color tip</source>
-        <translation>Color of measurements while they are selected</translation>
-    </message>
-    <message>
         <source>Images</source>
         <translation>Images</translation>
     </message>
@@ -1056,28 +1048,12 @@
         <translation>Localizers</translation>
     </message>
     <message>
-        <source>Localizers on all grids</source>
-        <translation>Show lines on all grids</translation>
-    </message>
-    <message>
-        <source>Localizers on all grids tip</source>
-        <translation>Off: lines on the active grid's neighbors only where they are asked for</translation>
-    </message>
-    <message>
-        <source>All localizers</source>
-        <translation>Show the lines of all images</translation>
-    </message>
-    <message>
-        <source>All localizers tip</source>
-        <translation>Lines of each image of the series</translation>
-    </message>
-    <message>
         <source>First and last localizers</source>
         <translation>Show the first and last line</translation>
     </message>
     <message>
         <source>First and last localizers tip</source>
-        <translation>Lines of the first and last image of the series</translation>
+        <translation>Beside the line of the image shown, where on other grids the series begins and ends</translation>
     </message>
     <message>
         <source>Separate localizers</source>
