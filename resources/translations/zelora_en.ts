@@ -83,6 +83,14 @@
         <translatorcomment>%1: folder name</translatorcomment>
         <translation>“%1” does not contain a DICOMDIR. Choosing it opens the images in it.</translation>
     </message>
+    <message>
+        <source>Last check</source>
+        <translation>Last check:</translation>
+    </message>
+    <message>
+        <source>Last check never</source>
+        <translation>Never looked for updates.</translation>
+    </message>
 </context>
 <context>
     <name>ZELErrors</name>
@@ -1194,6 +1202,373 @@
     <message>
         <source>AboutText</source>
         <translation>A viewer for DICOM images. It is not a medical device: do not base a diagnosis on it alone.</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>Panes</source>
+        <translation>Panes</translation>
+    </message>
+    <message>
+        <source>Pane tip</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>General title</source>
+        <translation>General Preferences</translation>
+    </message>
+    <message>
+        <source>DICOM</source>
+        <translation>DICOM</translation>
+    </message>
+    <message>
+        <source>DICOM title</source>
+        <translation>DICOM Preferences</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Presets</translation>
+    </message>
+    <message>
+        <source>Presets title</source>
+        <translation>Window Presets</translation>
+    </message>
+    <message>
+        <source>Presets title tip</source>
+        <translation>Double-click a value to change it; drag a row to move it</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Updates</translation>
+    </message>
+    <message>
+        <source>Updates title</source>
+        <translation>Software Updates</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows</translation>
+    </message>
+    <message>
+        <source>First layout</source>
+        <translation>First layout</translation>
+    </message>
+    <message>
+        <source>First layout tip</source>
+        <translation>How a window is divided among series when it opens</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>Opening</source>
+        <translation>Opening</translation>
+    </message>
+    <message>
+        <source>Scan subfolders</source>
+        <translation>Look into subfolders</translation>
+    </message>
+    <message>
+        <source>Scan subfolders tip</source>
+        <translation>Also opens what lies in the folders of a folder</translation>
+    </message>
+    <message>
+        <source>Ignore DICOMDIR</source>
+        <translation>Ignore DICOMDIR files</translation>
+    </message>
+    <message>
+        <source>Ignore DICOMDIR tip</source>
+        <translation>Reads the images of a folder themselves, even if it has a list of them</translation>
+    </message>
+    <message>
+        <source>Open discs</source>
+        <translation>Open discs when inserted</translation>
+    </message>
+    <message>
+        <source>Open discs tip</source>
+        <translation>Opens a disc with a DICOMDIR as soon as it is there</translation>
+    </message>
+    <message>
+        <source>Copy from discs</source>
+        <translation>Copy images from discs before showing them</translation>
+    </message>
+    <message>
+        <source>Copy from discs tip</source>
+        <translation>The disc can then be taken out, and paging is faster</translation>
+    </message>
+    <message>
+        <source>Copy from servers</source>
+        <translation>Treat servers like slow discs</translation>
+    </message>
+    <message>
+        <source>Copy from servers tip</source>
+        <translation>Copies images from network volumes too</translation>
+    </message>
+    <message>
+        <source>Open US and XA large</source>
+        <translation>Open US and XA with one series</translation>
+    </message>
+    <message>
+        <source>Open US and XA large tip</source>
+        <translation>Ultrasound and angiography open one series over the whole window</translation>
+    </message>
+    <message>
+        <source>Traverse marked</source>
+        <translation>Go on to marked series only</translation>
+    </message>
+    <message>
+        <source>Traverse marked tip</source>
+        <translation>When cine goes through all series, those without a mark are left out</translation>
+    </message>
+    <message>
+        <source>Text and grids</source>
+        <translation>Text and Grids</translation>
+    </message>
+    <message>
+        <source>Text color</source>
+        <translation>Text over images</translation>
+    </message>
+    <message>
+        <source>Text color tip</source>
+        <translation>Color of the text over images</translation>
+    </message>
+    <message>
+        <source>Active cell color</source>
+        <translation>Active image</translation>
+    </message>
+    <message>
+        <source>Active cell color tip</source>
+        <translation>Color of the frame around the active image</translation>
+    </message>
+    <message>
+        <source>Text font</source>
+        <translation>Font of text</translation>
+    </message>
+    <message>
+        <source>Choose font</source>
+        <translation>Choose…</translation>
+    </message>
+    <message>
+        <source>Choose font tip</source>
+        <translation>Font and size of the text over images</translation>
+    </message>
+    <message>
+        <source>Font sample</source>
+        <translation>%1 points %2</translation>
+    </message>
+    <message>
+        <source>Measurements</source>
+        <translation>Measurements</translation>
+    </message>
+    <message>
+        <source>Outline color</source>
+        <translation>Outline</translation>
+    </message>
+    <message>
+        <source>Outline color tip</source>
+        <translation>Color of the outline of new measurements</translation>
+    </message>
+    <message>
+        <source>Fill color</source>
+        <translation>Fill</translation>
+    </message>
+    <message>
+        <source>Fill color tip</source>
+        <translation>Color of the inside of new measurements</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Merge US</source>
+        <translation>Join single ultrasound images of a series</translation>
+    </message>
+    <message>
+        <source>Merge US tip</source>
+        <translation>From the next opening on</translation>
+    </message>
+    <message>
+        <source>Merge XA</source>
+        <translation>Join single angiography images of a series</translation>
+    </message>
+    <message>
+        <source>Merge XA tip</source>
+        <translation>From the next opening on</translation>
+    </message>
+    <message>
+        <source>Decode character sets</source>
+        <translation>Read text by its character set</translation>
+    </message>
+    <message>
+        <source>Decode character sets tip</source>
+        <translation>Off: text as older programs read it; from the next opening on</translation>
+    </message>
+    <message>
+        <source>Enhance contrast</source>
+        <translation>Cut windows to the values of the image</translation>
+    </message>
+    <message>
+        <source>Enhance contrast tip</source>
+        <translation>Off: windows by the formula of the standard alone</translation>
+    </message>
+    <message>
+        <source>Localizers</source>
+        <translation>Localizers</translation>
+    </message>
+    <message>
+        <source>First and last localizers</source>
+        <translation>Show the first and last line</translation>
+    </message>
+    <message>
+        <source>First and last localizers tip</source>
+        <translation>Beside the line of the image shown, where on other grids the series begins and ends</translation>
+    </message>
+    <message>
+        <source>Separate localizers</source>
+        <translation>Keep localizers apart</translation>
+    </message>
+    <message>
+        <source>Separate localizers tip</source>
+        <translation>Localizer images get a sequence of their own; from the next opening on</translation>
+    </message>
+    <message>
+        <source>Colors over images</source>
+        <translation>Colors over Images</translation>
+    </message>
+    <message>
+        <source>Overlay color</source>
+        <translation>Overlays</translation>
+    </message>
+    <message>
+        <source>Overlay color tip</source>
+        <translation>Color of overlays that the file brings along</translation>
+    </message>
+    <message>
+        <source>US region color</source>
+        <translation>Ultrasound regions</translation>
+    </message>
+    <message>
+        <source>US region color tip</source>
+        <translation>Color of the frames around ultrasound regions</translation>
+    </message>
+    <message>
+        <source>Localizer color</source>
+        <translation>Localizer lines</translation>
+    </message>
+    <message>
+        <source>Localizer color tip</source>
+        <translation>Color of localizer lines</translation>
+    </message>
+    <message>
+        <source>Cine</source>
+        <translation>Cine</translation>
+    </message>
+    <message>
+        <source>Cine autoplay</source>
+        <translation>Play at once</translation>
+    </message>
+    <message>
+        <source>Cine autoplay tip</source>
+        <translation>Cine starts when a series comes up that is usually played</translation>
+    </message>
+    <message>
+        <source>Enforce speed</source>
+        <translation>Same speed for all</translation>
+    </message>
+    <message>
+        <source>Enforce speed tip</source>
+        <translation>Plays at the default speed, whatever the file says</translation>
+    </message>
+    <message>
+        <source>Default speed</source>
+        <translation>Images per second</translation>
+    </message>
+    <message>
+        <source>Default speed tip</source>
+        <translation>4 to 60</translation>
+    </message>
+    <message>
+        <source>presetTitle</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>presetTitle tip</source>
+        <translation>Name in menus</translation>
+    </message>
+    <message>
+        <source>wcPreset</source>
+        <translation>Level</translation>
+    </message>
+    <message>
+        <source>wcPreset tip</source>
+        <translation>Center of the window</translation>
+    </message>
+    <message>
+        <source>wwPreset</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source>wwPreset tip</source>
+        <translation>Width of the window, above 0</translation>
+    </message>
+    <message>
+        <source>Add preset</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Add preset tip</source>
+        <translation>Adds a preset below the selected one</translation>
+    </message>
+    <message>
+        <source>Remove preset</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Remove preset tip</source>
+        <translation>Removes the selected presets (Delete)</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Move Up</translation>
+    </message>
+    <message>
+        <source>Move up tip</source>
+        <translation>Moves the selected preset up (Alt+Up)</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Move Down</translation>
+    </message>
+    <message>
+        <source>Move down tip</source>
+        <translation>Moves the selected preset down (Alt+Down)</translation>
+    </message>
+    <message>
+        <source>Reset presets</source>
+        <translation>Reset…</translation>
+    </message>
+    <message>
+        <source>Reset presets tip</source>
+        <translation>Brings back the presets that come with the program</translation>
+    </message>
+    <message>
+        <source>Check now</source>
+        <translation>Check Now</translation>
+    </message>
+    <message>
+        <source>Check now tip</source>
+        <translation>Looks for a newer version</translation>
+    </message>
+    <message>
+        <source>No update service</source>
+        <translation>This copy of the program doesn't look for updates by itself. New versions come the way this one came.</translation>
     </message>
 </context>
 </TS>

@@ -87,12 +87,15 @@ struct PreferenceStore::Layers {
     mutable std::shared_mutex fMutex;
     std::string fPath;
     bool fIsLoaded = false;
+    bool fIsDamaged = false;  // the file is written anew although no key has changed
     Values fRun, fStored, fDefaults;
     std::unordered_set<std::string> fChanged;  // keys that the file doesn't have yet
 
     void Load();  // with fMutex held alone
-    const QVariant* Find(std::string_view key) const;
-    void ReadShared(std::string_view key, const std::function<void(const QVariant*)>& take);
+    // Answers true where a layer's value is of a kind that it takes; else the next layer is asked.
+    using Taker = std::function<bool(const QVariant&)>;
+    void Find(std::string_view key, const Taker& take) const;
+    void ReadShared(std::string_view key, const Taker& take);
     QvxStatus Write();
 };
 
@@ -104,30 +107,33 @@ void PreferenceStore::Layers::Load()
     if (fPath.empty())
         return;
     const PropertyListReading reading = ReadPropertyListFile(fPath);
-    if (!reading.IsSound() && reading.fStatus != kQvxFileNotFound)
-        LogLine("damaged preferences in " + fPath + ": " + reading.fFault);
+    const bool isOther = reading.IsSound() && reading.fRoot.typeId() != QMetaType::QVariantMap;
+    if (isOther || (!reading.IsSound() && reading.fStatus != kQvxFileNotFound))
+        LogLine("damaged preferences in " + fPath + ": " +
+                (isOther ? "no dictionary" : reading.fFault));
+    fIsDamaged = isOther || reading.fStatus == kQvxMalformed;
     fStored = ValuesOf(reading.fRoot.toMap());
 }
 
-const QVariant* PreferenceStore::Layers::Find(std::string_view key) const
+void PreferenceStore::Layers::Find(std::string_view key, const Taker& take) const
 {
-    for (const Values* values : {&fRun, &fStored, &fDefaults})
-        if (const auto found = values->find(key); found != values->end())
-            return &found->second;
-    return nullptr;
+    for (const Values* values : {&fRun, &fStored, &fDefaults}) {
+        const auto found = values->find(key);
+        if (found != values->end() && take(found->second))
+            return;
+    }
 }
 
-void PreferenceStore::Layers::ReadShared(std::string_view key,
-                                         const std::function<void(const QVariant*)>& take)
+void PreferenceStore::Layers::ReadShared(std::string_view key, const Taker& take)
 {
     {
         const std::shared_lock lock(fMutex);
         if (fIsLoaded)
-            return take(Find(key));
+            return Find(key, take);
     }
     const std::unique_lock lock(fMutex);
     Load();
-    take(Find(key));
+    Find(key, take);
 }
 
 QvxStatus PreferenceStore::Layers::Write()
@@ -144,6 +150,7 @@ QvxStatus PreferenceStore::Layers::Write()
         return status;
     fStored = ValuesOf(merged);
     fChanged.clear();
+    fIsDamaged = false;
     return kQvxOK;
 }
 
@@ -154,78 +161,88 @@ PreferenceStore::PreferenceStore(std::string path) : fLayers(std::make_unique<La
 
 PreferenceStore::~PreferenceStore() { Synchronize(); }
 
+namespace {
+
+// `read` is asked for a number alone.
+template <class Kind, class Read>
+auto NumberTaker(Kind* answer, Read read)
+{
+    return [answer, read](const QVariant& value) {
+        if (IsNumber(value))
+            *answer = read(value);
+        return IsNumber(value);
+    };
+}
+
+// A copy, if the value is of this kind.
+template <class Kind>
+auto TakerOf(QMetaType::Type kind, Kind* answer)
+{
+    return [kind, answer](const QVariant& value) {
+        if (value.typeId() != kind)
+            return false;
+        *answer = OwnCopy(value).template value<Kind>();
+        return true;
+    };
+}
+
+}  // namespace
+
 bool PreferenceStore::Bool(std::string_view key) const
 {
     bool answer = false;
-    fLayers->ReadShared(key, [&answer](const QVariant* value) {
-        answer = value && IsNumber(*value) && value->toDouble() != 0;
-    });
+    fLayers->ReadShared(
+        key, NumberTaker(&answer, [](const QVariant& value) { return value.toDouble() != 0; }));
     return answer;
 }
 
 qint64 PreferenceStore::Integer(std::string_view key) const
 {
     qint64 answer = 0;
-    fLayers->ReadShared(
-        key, [&answer](const QVariant* value) { answer = value ? IntegerOf(*value) : 0; });
+    fLayers->ReadShared(key, NumberTaker(&answer, IntegerOf));
     return answer;
 }
 
 double PreferenceStore::Float(std::string_view key) const
 {
     double answer = 0;
-    fLayers->ReadShared(key, [&answer](const QVariant* value) {
-        answer = value && IsNumber(*value) ? value->toDouble() : 0;
-    });
+    fLayers->ReadShared(
+        key, NumberTaker(&answer, [](const QVariant& value) { return value.toDouble(); }));
     return answer;
 }
-
-namespace {
-
-// A copy, if the value is of this kind.
-template <class Kind>
-std::function<void(const QVariant*)> Taker(QMetaType::Type kind, Kind* answer)
-{
-    return [kind, answer](const QVariant* value) {
-        if (value && value->typeId() == kind)
-            *answer = OwnCopy(*value).template value<Kind>();
-    };
-}
-
-}  // namespace
 
 QString PreferenceStore::String(std::string_view key) const
 {
     QString answer;
-    fLayers->ReadShared(key, Taker(QMetaType::QString, &answer));
+    fLayers->ReadShared(key, TakerOf(QMetaType::QString, &answer));
     return answer;
 }
 
 QByteArray PreferenceStore::Data(std::string_view key) const
 {
     QByteArray answer;
-    fLayers->ReadShared(key, Taker(QMetaType::QByteArray, &answer));
+    fLayers->ReadShared(key, TakerOf(QMetaType::QByteArray, &answer));
     return answer;
 }
 
 QVariantList PreferenceStore::Array(std::string_view key) const
 {
     QVariantList answer;
-    fLayers->ReadShared(key, Taker(QMetaType::QVariantList, &answer));
+    fLayers->ReadShared(key, TakerOf(QMetaType::QVariantList, &answer));
     return answer;
 }
 
 QVariantMap PreferenceStore::Dictionary(std::string_view key) const
 {
     QVariantMap answer;
-    fLayers->ReadShared(key, Taker(QMetaType::QVariantMap, &answer));
+    fLayers->ReadShared(key, TakerOf(QMetaType::QVariantMap, &answer));
     return answer;
 }
 
 bool PreferenceStore::Has(std::string_view key) const
 {
     bool answer = false;
-    fLayers->ReadShared(key, [&answer](const QVariant* value) { answer = value != nullptr; });
+    fLayers->ReadShared(key, [&answer](const QVariant&) { return answer = true; });
     return answer;
 }
 
@@ -272,7 +289,7 @@ void PreferenceStore::Override(std::string_view key, const QVariant& value)
 QvxStatus PreferenceStore::Synchronize()
 {
     const std::unique_lock lock(fLayers->fMutex);
-    if (fLayers->fChanged.empty() || fLayers->fPath.empty())
+    if (fLayers->fPath.empty() || (fLayers->fChanged.empty() && !fLayers->fIsDamaged))
         return kQvxOK;
     return fLayers->Write();
 }
@@ -282,6 +299,7 @@ void PreferenceStore::UseFile(std::string path)
     const std::unique_lock lock(fLayers->fMutex);
     fLayers->fPath = std::move(path);
     fLayers->fIsLoaded = false;
+    fLayers->fIsDamaged = false;
     fLayers->fRun.clear();
     fLayers->fStored.clear();
     fLayers->fChanged.clear();

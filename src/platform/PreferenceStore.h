@@ -1,6 +1,6 @@
-// Settings of one user by key. Three layers answer, the first that has the key: values for this run
-// only, stored values, registered defaults. Safe to use from any thread; a read takes a shared lock
-// and a look-up.
+// Settings of one user by key. Three layers answer, the first that has the key as the kind asked
+// for: values for this run only, stored values, registered defaults. Safe to use from any thread; a
+// read takes a shared lock and a look-up.
 #pragma once
 #include "util/StatusCodes.h"
 
@@ -40,10 +40,11 @@ public:
     // A value for this run, never stored. An invalid QVariant takes it away.
     void Override(std::string_view key, const QVariant& value);
 
-    // Writes what has changed since the last time, and nothing if nothing has. The file is read
-    // again before, under a lock between programs, so that another program's changes to other keys
-    // stay. A damaged file is kept beside the new one under "….damaged" with a number. An errno if
-    // it can't be written; the changes then wait for the next time.
+    // Writes what has changed since the last time; nothing if nothing has, unless the file was
+    // found damaged. The file is read again before, under a lock between programs, so that another
+    // program's changes to other keys stay. A damaged file is kept beside the new one under
+    // "….damaged" with a number. An errno if it can't be written; the changes then wait for the
+    // next time.
     QvxStatus Synchronize();
 
     // Drops all but the defaults, unwritten changes too, and goes on with another file.

@@ -2,8 +2,6 @@
 
 #include "platform/PropertyList.h"
 
-#include <algorithm>
-
 namespace {
 
 struct TableFile {
@@ -13,37 +11,35 @@ struct TableFile {
 };
 #include "ColorTables.inc"
 
-std::uint16_t ComponentAt(const QVariantList& values, qsizetype index)
-{
-    const int value = index < values.size() ? values[index].toInt() : 0;
-    return static_cast<std::uint16_t>(std::clamp(value, 0, 255) * 257);
-}
+constexpr int kFirstTableID = 2;
 
-ZELCLUT TableOf(const TableFile& file)
+ZELCLUTMenuItem ItemOf(const TableFile& file)
 {
-    constexpr qsizetype kEntries = 256;
     const QByteArray bytes(reinterpret_cast<const char*>(file.fBytes),
                            static_cast<qsizetype>(file.fSize));
-    const QVariantMap root = ReadPropertyList(bytes).fRoot.toMap();
-    const QVariantList reds = root[QStringLiteral("Red")].toList();
-    const QVariantList greens = root[QStringLiteral("Green")].toList();
-    const QVariantList blues = root[QStringLiteral("Blue")].toList();
-    ZELCLUT table;
-    table.fName = root[QStringLiteral("MenuTitle")].toString().toStdString();
-    if (table.fName.empty())
-        table.fName = file.fName;
-    for (qsizetype i = 0; i < kEntries; ++i)
-        table.fTable.fEntries.push_back({static_cast<std::uint16_t>(i), ComponentAt(reds, i),
-                                         ComponentAt(greens, i), ComponentAt(blues, i)});
-    return table;
+    ZELCLUTMenuItem item = ZELCLUTMenuItem::FromDictionary(ReadPropertyList(bytes).fRoot.toMap());
+    item.clutFilename = QString::fromUtf8(file.fName);
+    if (item.clutTitle.isEmpty())
+        item.clutTitle = item.itemName = item.clutFilename;
+    return item;
 }
 
 }  // namespace
 
+std::vector<ZELCLUTMenuItem> loadCLUTMenuItems()
+{
+    std::vector<ZELCLUTMenuItem> items;
+    for (const TableFile& file : kTableFiles) {
+        items.push_back(ItemOf(file));
+        items.back().tableID = kFirstTableID - 1 + static_cast<int>(items.size());
+    }
+    return items;
+}
+
 std::vector<ZELCLUT> loadCLUTTables()
 {
     std::vector<ZELCLUT> tables;
-    for (const TableFile& file : kTableFiles)
-        tables.push_back(TableOf(file));
+    for (const ZELCLUTMenuItem& item : loadCLUTMenuItems())
+        tables.push_back({item.clutTitle.toStdString(), item.colorTable()});
     return tables;
 }

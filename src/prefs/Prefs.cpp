@@ -6,12 +6,17 @@
 
 #include <QString>
 #include <algorithm>
+#include <limits>
 
 namespace {
 
 constexpr int kMinCineSpeed = 4, kMaxCineSpeed = 60, kUsualCineSpeed = 15;  // frames a second
 constexpr int kNoLoop = 0, kLoop = 1, kSweep = 2;
 constexpr float kUsualFontSize = 10.0F;
+constexpr double kLeastFontSize = 1, kMostFontSize = 1000;  // what is read
+constexpr int kMinPreviewSize = 23, kMaxPreviewSize = 257, kUsualPreviewSize = 96;
+constexpr int kToolbarShown = 1, kToolbarHidden = 2;
+constexpr int kMostRuns = std::numeric_limits<int>::max() / 2;  // so that two can be added
 constexpr const char* kUsualFont = "Andale Mono";
 constexpr const char* kKeyCineSpeed = "CineDefaultSpeed";
 constexpr const char* kKeyCineLoop = "CineLoopType";
@@ -39,6 +44,8 @@ void StoreSizes(const char* key, const std::vector<int>& sizes)
 {
     Store(key, QVariantList(sizes.begin(), sizes.end()));
 }
+
+int ReadCount(const char* key) { return std::clamp(ReadInt(key), 0, kMostRuns); }
 
 }  // namespace
 
@@ -79,7 +86,7 @@ void prefs_Set_OpenTargetDirectory(const std::string& folder)
 
 // --- Viewing
 
-int prefs_ToolScope() { return ReadInt("ToolScope"); }
+int prefs_ToolScope() { return ReadIntWithin("ToolScope", 0, 1, 1); }
 void prefs_Set_ToolScope(int scope) { Store("ToolScope", scope); }
 bool prefs_EnhanceVOIContrast() { return ReadBool("EnhanceVOIContrastFlag"); }
 void prefs_Set_EnhanceVOIContrast(bool on) { Store("EnhanceVOIContrastFlag", on); }
@@ -87,7 +94,10 @@ bool prefs_BnCDialogPreview() { return ReadBool("BnCDialogPreviewFlag"); }
 void prefs_Set_BnCDialogPreview(bool on) { Store("BnCDialogPreviewFlag", on); }
 bool prefs_LimitAutoFit() { return ReadBool("LimitAutoFitTo100Flag"); }
 void prefs_Set_LimitAutoFit(bool on) { Store("LimitAutoFitTo100Flag", on); }
-int prefs_PreviewPictSize() { return ReadInt("PreviewPictSize"); }
+int prefs_PreviewPictSize()
+{
+    return ReadIntWithin("PreviewPictSize", kMinPreviewSize, kMaxPreviewSize, kUsualPreviewSize);
+}
 void prefs_Set_PreviewPictSize(int size) { Store("PreviewPictSize", size); }
 int prefs_SequenceInitialGridArrangement() { return ReadInt("SequenceGridArrangement"); }
 void prefs_Set_SequenceInitialGridArrangement(int arrangement)
@@ -96,7 +106,10 @@ void prefs_Set_SequenceInitialGridArrangement(int arrangement)
 }
 bool prefs_ShowPatientListPane() { return ReadBool("ShowPatientListPane"); }
 void prefs_Set_ShowPatientListPane(bool on) { Store("ShowPatientListPane", on); }
-int prefs_ShowZELToolbarPane() { return ReadInt("ShowZELToolbarPane"); }
+int prefs_ShowZELToolbarPane()
+{
+    return ReadIntWithin("ShowZELToolbarPane", kToolbarShown, kToolbarHidden, kToolbarShown);
+}
 void prefs_Set_ShowZELToolbarPane(int state) { Store("ShowZELToolbarPane", state); }
 bool prefs_ShowMeasurementInfoPane() { return ReadBool("ShowMeasurementInfoPane"); }
 void prefs_Set_ShowMeasurementInfoPane(bool on) { Store("ShowMeasurementInfoPane", on); }
@@ -131,7 +144,7 @@ void prefs_Set_SeparateLocalizerFrames(bool on) { Store("SeparateSequenceLocaliz
 
 // --- Cine
 
-int prefs_GetCineLoopMode() { return ReadInt(kKeyCineLoop); }
+int prefs_GetCineLoopMode() { return ReadIntWithin(kKeyCineLoop, kNoLoop, kSweep, kLoop); }
 bool prefs_CineDoNOTLoop() { return prefs_GetCineLoopMode() == kNoLoop; }
 bool prefs_CineDoLoop() { return prefs_GetCineLoopMode() == kLoop; }
 bool prefs_CineDoSweep() { return prefs_GetCineLoopMode() == kSweep; }
@@ -181,9 +194,9 @@ void prefs_Set_AnnotationsFontNameC(std::string_view name)
 }
 float prefs_Get_AnnotationsFontSize()
 {
-    const auto size = static_cast<float>(prefs_Store().Float(kKeyFontSize));
+    const double size = prefs_Store().Float(kKeyFontSize);
     if (size > 0)
-        return size;
+        return static_cast<float>(std::clamp(size, kLeastFontSize, kMostFontSize));
     prefs_Set_AnnotationsFontSize(kUsualFontSize);
     return kUsualFontSize;
 }
@@ -199,13 +212,13 @@ void prefs_Set_RemovePrivateFields(bool on) { Store("RemovePrivateFieldsFlag", o
 
 // --- Bookkeeping
 
-int prefs_NumberOfRuns_Previous() { return ReadInt("RunCounterPrevious"); }
+int prefs_NumberOfRuns_Previous() { return ReadCount("RunCounterPrevious"); }
 void prefs_Set_NumberOfRuns_Previous(int runs) { Store("RunCounterPrevious", runs); }
-int prefs_NumberOfRuns_Current() { return ReadInt("RunCounterCurrent"); }
+int prefs_NumberOfRuns_Current() { return ReadCount("RunCounterCurrent"); }
 void prefs_Set_NumberOfRuns_Current(int runs) { Store("RunCounterCurrent", runs); }
 int prefs_NumberOfRuns_Total()
 {
     return prefs_NumberOfRuns_Previous() + prefs_NumberOfRuns_Current();
 }
-int prefs_NumberOfCrashes() { return ReadInt("CrashCounter"); }
+int prefs_NumberOfCrashes() { return ReadCount("CrashCounter"); }
 void prefs_Set_NumberOfCrashes(int crashes) { Store("CrashCounter", crashes); }

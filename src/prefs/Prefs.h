@@ -2,6 +2,7 @@
 // key. Values live in one PreferenceStore; what a fresh install answers stands with its reasons in
 // resources/ZELDefaultPrefs.plist. Getters may be called from any thread. Some of them repair: a
 // missing or invalid value is replaced by the fixed default that the function tells, and stored.
+// The others answer something usual for a stored value of another kind or range, unstored.
 #pragma once
 #include "prefs/PrefsColors.h"
 #include "prefs/PrefsTables.h"
@@ -144,7 +145,8 @@ void prefs_Set_Cine_TraverseRespectsMarked(bool on);
 void prefs_Set_AnnotationsFontName(const QString& name);
 [[nodiscard]] std::string prefs_Get_AnnotationsFontNameC();  // the same in UTF-8
 void prefs_Set_AnnotationsFontNameC(std::string_view name);
-[[nodiscard]] float prefs_Get_AnnotationsFontSize();  // points; 10, stored, when 0 or below
+[[nodiscard]] float
+prefs_Get_AnnotationsFontSize();  // points; 10, stored, when 0 or below; at most 1000
 void prefs_Set_AnnotationsFontSize(float size);
 
 // --- Export --------------------------------------------------------------------------------------

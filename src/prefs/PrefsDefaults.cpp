@@ -99,6 +99,12 @@ int ReadInt(const char* key)
     return number < Limits::min() || number > Limits::max() ? 0 : static_cast<int>(number);
 }
 
+int ReadIntWithin(const char* key, int least, int most, int usual)
+{
+    const int number = ReadInt(key);
+    return number < least || number > most ? usual : number;
+}
+
 void Store(const char* key, const QVariant& value)
 {
     // The kinds that this folder stores are all fit for a property list, NaN alone is not.

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QVariantMap>
+#include <algorithm>
 
 namespace {
 
@@ -33,6 +34,9 @@ QString TextOfType(std::uint32_t type)
         text.append(QChar::fromLatin1(static_cast<char>(type >> shift & 0xFF)));
     return text;
 }
+
+// -1 for none, and for what can't have been stored.
+int ReadLevel(const char* key) { return std::max(ReadInt(key), 0) - 1; }
 
 }  // namespace
 
@@ -83,9 +87,9 @@ void prefs_Set_Export_SerializeNamePrefix(const QString& prefix)
 }
 bool prefs_Get_ExportAddsMetadata() { return ReadBool("Export_AddsMetadataFlag"); }
 void prefs_Set_ExportAddsMetadata(bool on) { Store("Export_AddsMetadataFlag", on); }
-int prefs_SavedAnonymizeLevel() { return ReadInt(kKeyAnonymizeLevel) - 1; }
+int prefs_SavedAnonymizeLevel() { return ReadLevel(kKeyAnonymizeLevel); }
 void prefs_Set_SavedAnonymizeLevel(int level) { Store(kKeyAnonymizeLevel, level + 1); }
-int prefs_SavedDicomDataExportLevel() { return ReadInt(kKeyDataExportLevel) - 1; }
+int prefs_SavedDicomDataExportLevel() { return ReadLevel(kKeyDataExportLevel); }
 void prefs_Set_SavedDicomDataExportLevel(int level) { Store(kKeyDataExportLevel, level + 1); }
 int prefs_SavedDicomDataExportType() { return ReadInt("ZELDicomDataExportType"); }
 void prefs_Set_SavedDicomDataExportType(int type) { Store("ZELDicomDataExportType", type); }

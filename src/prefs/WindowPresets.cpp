@@ -26,12 +26,23 @@ float NumberOf(const QVariant& value)
     return std::abs(number) <= std::numeric_limits<float>::max() ? static_cast<float>(number) : 0;
 }
 
+std::vector<ZELWWWLMenuItem> ItemsOf(const QVariantList& list)
+{
+    std::vector<ZELWWWLMenuItem> presets;
+    for (const QVariant& preset : list) {
+        presets.push_back(ZELWWWLMenuItem::FromDictionary(preset.toMap()));
+        presets.back().tableID = static_cast<int>(presets.size()) - 1;
+    }
+    return presets;
+}
+
 }  // namespace
 
 ZELWWWLMenuItem ZELWWWLMenuItem::FromDictionary(const QVariantMap& dictionary)
 {
-    return {dictionary[QStringLiteral("Title")].toString(),
-            NumberOf(dictionary[QStringLiteral("WW")]), NumberOf(dictionary[QStringLiteral("WC")])};
+    return {{dictionary[QStringLiteral("Title")].toString()},
+            NumberOf(dictionary[QStringLiteral("WW")]),
+            NumberOf(dictionary[QStringLiteral("WC")])};
 }
 
 QVariantMap ZELWWWLMenuItem::dictionaryToSave() const
@@ -43,14 +54,14 @@ QVariantMap ZELWWWLMenuItem::dictionaryToSave() const
 
 std::vector<ZELWWWLMenuItem> loadWWWLPresets()
 {
-    const bool stored = prefs_Store().Has(kPrefsKeyWWWLPresets);
-    std::vector<ZELWWWLMenuItem> presets;
-    for (const QVariant& preset :
-         stored ? prefs_Store().Array(kPrefsKeyWWWLPresets) : PresetsOfTheProgram()) {
-        presets.push_back(ZELWWWLMenuItem::FromDictionary(preset.toMap()));
-        presets.back().tableID = static_cast<int>(presets.size()) - 1;
-    }
-    return presets;
+    // An empty list is never stored: there is none, or another thing in its place.
+    const QVariantList stored = prefs_Store().Array(kPrefsKeyWWWLPresets);
+    return stored.isEmpty() ? loadWWWLPresetsOfTheProgram() : ItemsOf(stored);
+}
+
+std::vector<ZELWWWLMenuItem> loadWWWLPresetsOfTheProgram()
+{
+    return ItemsOf(PresetsOfTheProgram());
 }
 
 QvxStatus saveWWWLPresets(const std::vector<ZELWWWLMenuItem>& presets)

@@ -3,6 +3,7 @@
 #include "app/grid/ZELSequenceGridViewModelController.h"
 #include "app/tools/GridMenuItems.h"
 #include "platform/Words.h"
+#include "prefs/MenuItems.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -75,11 +76,18 @@ public:
     [[nodiscard]] MenuEntry imageGrids() const
     {
         Entries entries;
-        for (std::size_t setup = 0; setup < kImageGridTitles.size(); ++setup)
-            entries.push_back(
-                command(C::SetImageGrid, kFirstImageGridTag + static_cast<int>(setup)));
-        entries.push_back({});
-        entries.push_back(command(C::OpenGridSetup));
+        const auto table = ZELGridMenuItemsArray::initFromFile(QLatin1String(kMenuTableGrids),
+                                                               MenuWord("Other..."));
+        for (int i = 0; i < table.count(); ++i) {
+            if (const ZELGridDimMenuItem* item = table.standardItemAt(i))
+                entries.push_back(
+                    command(C::SetImageGrid,
+                            kFirstImageGridTag + GridSetupIDFromRows(item->rows, item->columns)));
+            else if (i + 1 < table.count())
+                entries.push_back({});
+            else
+                entries.push_back(command(C::OpenGridSetup));
+        }
         return Submenu("Image Grid", std::move(entries));
     }
 

@@ -2,18 +2,25 @@
 
 #include "app/tools/MouseTrackers.h"
 #include "platform/Words.h"
+#include "prefs/MenuItems.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
-constexpr std::array<double, 11> kMenuPercents{800, 400, 200, 150, 125, 100, 75, 50, 25, 12.5, 10};
 constexpr double kLeast = 5, kMost = 800;  // percent that may be typed
 
 double PercentOf(const QString& typed) { return NumberAtStart(CutAt(typed, "0123456789.")); }
 
 bool IsInRange(double percent) { return percent >= kLeast && percent <= kMost; }
+
+// Its places are the menu's tags, from 1.
+const ZELZoomMenuItemsArray& ZoomMenuItems()
+{
+    static const auto items = ZELZoomMenuItemsArray::initFromFile(
+        QLatin1String(kMenuTableZoom), ZelWord(kWordsMenuItems, "Fit in Window"));
+    return items;
+}
 
 }  // namespace
 
@@ -87,14 +94,15 @@ void ZELZoomTextBoxController::dopopupZoomValue(int tag)
 {
     if (tag == kTagAutoFit)
         setZoomToAutoFit();
-    else if (tag >= 1 && tag <= static_cast<int>(kMenuPercents.size()))
-        setZoomValueTo(kMenuPercents[static_cast<std::size_t>(tag - 1)]);
+    else if (const ZELZoomMenuItem* item = ZoomMenuItems().standardItemAt(tag - 1))
+        setZoomValueTo(item->zoomValue);
 }
 
 int ZELZoomTextBoxController::menuIDForZoom(double percent)
 {
-    const auto found = std::ranges::find(kMenuPercents, percent);
-    return found == kMenuPercents.end() ? -1 : static_cast<int>(found - kMenuPercents.begin());
+    const auto& items = ZoomMenuItems().standardItemsArray;
+    const auto found = std::ranges::find(items, percent, &ZELZoomMenuItem::zoomValue);
+    return found == items.end() ? -1 : static_cast<int>(found - items.begin());
 }
 
 std::vector<MenuEntry> ZELZoomTextBoxController::updateZoomMenu()
@@ -113,10 +121,15 @@ std::vector<MenuEntry> ZELZoomTextBoxController::updateZoomMenu()
         entry.perform = [this, tag](bool) { dopopupZoomValue(tag); };
         menu.push_back(std::move(entry));
     };
-    for (int i = 0; i < static_cast<int>(kMenuPercents.size()); ++i)
-        add(i + 1, QString::number(kMenuPercents[static_cast<std::size_t>(i)]) + QLatin1Char('%'),
-            i == current);
-    menu.emplace_back();  // a separator
-    add(kTagAutoFit, ZelWord(kWordsMenuItems, "Fit in Window"), fits);
+    const ZELZoomMenuItemsArray& items = ZoomMenuItems();
+    for (int i = 0; i < items.count(); ++i) {
+        const QString title = items.objectAtIndex(i);
+        if (items.standardItemAt(i))
+            add(i + 1, title, i == current);
+        else if (title == QLatin1String("-"))
+            menu.emplace_back();  // a separator
+        else
+            add(kTagAutoFit, title, fits);
+    }
     return menu;
 }
