@@ -1049,6 +1049,10 @@
         <source>About</source>
         <translation>About</translation>
     </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>

@@ -85,6 +85,13 @@ int PresetList::addPreset(int row)
     return place;
 }
 
+int PresetList::addPresetOf(float width, float level)
+{
+    fPresets.push_back({ZelWord(kWordsMenuItems, "Untitled"), width, level, 0});
+    saveTableValues();
+    return count() - 1;
+}
+
 void PresetList::removePresets(std::vector<int> rows)
 {
     std::ranges::sort(rows, std::greater<>());

@@ -28,6 +28,8 @@ public:
 
     // The row of the new preset, behind `row`; at the end for a row that there isn't.
     int addPreset(int row);
+    // At the end, under the name of one that has none yet. Its row.
+    int addPresetOf(float width, float level);
     void removePresets(std::vector<int> rows);
     // Between the rows `target` - 1 and `target`. Where the preset stands then; none if it stays.
     std::optional<int> movePreset(int row, int target);

@@ -38,6 +38,14 @@ int PresetTableModel::addPreset(int row)
     return added;
 }
 
+int PresetTableModel::addPresetOf(float width, float level)
+{
+    beginInsertRows({}, rowCount(), rowCount());
+    const int added = _list->addPresetOf(width, level);
+    endInsertRows();
+    return added;
+}
+
 void PresetTableModel::removePresets(const std::vector<int>& rows)
 {
     beginResetModel();

@@ -15,6 +15,7 @@ public:
     // The list has been changed as a whole.
     void reset();
     int addPreset(int row);
+    int addPresetOf(float width, float level);
     void removePresets(const std::vector<int>& rows);
     std::optional<int> movePreset(int row, int target);
 

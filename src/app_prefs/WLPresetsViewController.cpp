@@ -112,10 +112,21 @@ void WLPresetsViewController::selectRow(int row)
 void WLPresetsViewController::addPreset()
 {
     selectRow(_model.addPreset(selectedRow()));
-    QTimer::singleShot(0, this, [this] {
+    editSelected(kFirstEditedColumn);
+}
+
+void WLPresetsViewController::offerPreset(float width, float level)
+{
+    selectRow(_model.addPresetOf(width, level));
+    editSelected(static_cast<int>(PresetList::Column::Title));
+}
+
+void WLPresetsViewController::editSelected(int column)
+{
+    QTimer::singleShot(0, this, [this, column] {
         _table->setFocus();
         if (selectedRow() >= 0)
-            _table->edit(_model.index(selectedRow(), kFirstEditedColumn));
+            _table->edit(_model.index(selectedRow(), column));
     });
 }
 

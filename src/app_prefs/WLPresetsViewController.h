@@ -22,6 +22,7 @@ public:
 
     [[nodiscard]] QTableView* table() const { return _table; }
     void addPreset();
+    void offerPreset(float width, float level);  // a new one, whose name is typed next
     void removePreset();
     void resetToDefaults();
     void movePreset(int rows);  // up is negative
@@ -32,6 +33,7 @@ private:
     void prepareTable();
     void selectRow(int row);
     void enableButtons();
+    void editSelected(int column);          // once the event at hand is over
     [[nodiscard]] int selectedRow() const;  // -1 for none
 
     PresetList _list;

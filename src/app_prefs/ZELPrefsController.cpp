@@ -15,7 +15,8 @@ PrefsWindow& ZELPrefsController::made()
         _window = std::make_unique<PrefsWindow>();
         _window->addPane(new TestGeneralViewController);
         _window->addPane(new DicomPrefsTabController);
-        _window->addPane(new WLPresetsViewController(_hooks.showAlert));
+        _presets = new WLPresetsViewController(_hooks.showAlert);
+        _window->addPane(_presets);
         _window->addPane(new UpdatesPrefsTabController(_hooks.updates));
     }
     return *_window;
@@ -35,6 +36,13 @@ void ZELPrefsController::showPane(const QString& identifier, QWidget* near)
 {
     made().showPane(identifier);
     made().bringUp(near);
+}
+
+void ZELPrefsController::offerPreset(float width, float level, QWidget* near)
+{
+    made();
+    showPane(_presets->identifier(), near);
+    _presets->offerPreset(width, level);
 }
 
 void ZELPrefsController::close()

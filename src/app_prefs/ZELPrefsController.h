@@ -9,6 +9,7 @@
 class PrefsWindow;
 class QWidget;
 class UpdateService;
+class WLPresetsViewController;
 
 class ZELPrefsController {
 public:
@@ -26,6 +27,8 @@ public:
     // The same on one pane: "General", "DICOM", "Presets" or "Updates". The one shown last for
     // another name.
     void showPane(const QString& identifier, QWidget* near = nullptr);
+    // A new preset of the user's with that window, on its pane.
+    void offerPreset(float width, float level, QWidget* near = nullptr);
     void close();
     [[nodiscard]] bool isVisible() const;
     [[nodiscard]] PrefsWindow* window() const { return _window.get(); }  // null until first shown
@@ -35,4 +38,5 @@ private:
 
     Hooks _hooks;
     std::unique_ptr<PrefsWindow> _window;
+    WLPresetsViewController* _presets = nullptr;  // a pane of the window
 };

@@ -63,7 +63,12 @@ std::string FullPath(const std::string& path)
 ZELAppDelegate::ZELAppDelegate(std::optional<QString> snapshotPath)
     : _snapshotPath(std::move(snapshotPath)),
       _progressWindow([this] { _controller.cancelOpen(); }),
-      _controller(this, this, &_progressWindow, isAttended() ? &_recents : nullptr)
+      _controller(this, this, &_progressWindow, isAttended() ? &_recents : nullptr),
+      _preferences({[](int code, const QString& name) {
+                        return RunAlert(AlertWordsForError(code, name),
+                                        QApplication::activeWindow());
+                    },
+                    nullptr})
 {
     // Between two opens no window may stand, and an alert is no window to stay for.
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -140,6 +145,7 @@ void ZELAppDelegate::applicationWillTerminate()
     for (const auto& window : _windows)
         window->imagesDB().cleanCacheFiles();
     _volumes.reset();
+    _preferences.close();
     _windows.clear();
     _baseBuffer.reset();
     RemoveProgramTempFolder();
@@ -354,9 +360,21 @@ ZELMainWindowController* ZELAppDelegate::topmostViewerWindow() const
     return found;
 }
 
-void ZELAppDelegate::showHidePreferencesWindow() {}
-void ZELAppDelegate::showPreferencesPane(const char*) {}
-void ZELAppDelegate::offerPreset(float, float) {}
+void ZELAppDelegate::showHidePreferencesWindow()
+{
+    _preferences.togglePreferencesWindow(QApplication::activeWindow());
+}
+
+void ZELAppDelegate::showPreferencesPane(const char* pane)
+{
+    _preferences.showPane(QString::fromLatin1(pane), QApplication::activeWindow());
+}
+
+void ZELAppDelegate::offerPreset(float width, float level)
+{
+    _preferences.offerPreset(width, level, QApplication::activeWindow());
+}
+
 void ZELAppDelegate::showFirstAidWindow() {}
 void ZELAppDelegate::showHelp() { ShowHelp(QApplication::activeWindow()); }
 void ZELAppDelegate::showAcknowledgments() { ShowAcknowledgments(QApplication::activeWindow()); }

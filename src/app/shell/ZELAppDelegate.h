@@ -3,6 +3,7 @@
 #pragma once
 #include "app/shell/OpenProgressWindow.h"
 #include "app/window/AppCommands.h"
+#include "app_prefs/ZELPrefsController.h"
 #include "dicom_core/opening/OpenController.h"
 #include "dicom_core/store/zel_ImageBuffer.h"
 
@@ -92,6 +93,7 @@ private:
     OpenProgressWindow _progressWindow;
     ZELOpenController _controller;
     std::vector<std::unique_ptr<ZELMainWindowController>> _windows;
+    ZELPrefsController _preferences;
     std::unique_ptr<StartWindow> _startWindow;  // made when it is first needed
     std::unique_ptr<QuitSignals> _signals;
     std::unique_ptr<VolumeWatcher> _volumes;

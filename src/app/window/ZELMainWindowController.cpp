@@ -106,7 +106,7 @@ void ZELMainWindowController::layOut()
 void ZELMainWindowController::setUpBoxes()
 {
     ZELWWWLTextBoxController& values = _pane->boxes()->windowController();
-    values.editPresetsAction = [this] { _app->showPreferencesPane("WWWLPane"); };
+    values.editPresetsAction = [this] { _app->showPreferencesPane("Presets"); };
     values.makePresetAction = [this] {
         if (const ZELSequenceProxy* proxy = _pane->proxy())
             _app->offerPreset(static_cast<float>(proxy->currentWWBrightness()),
