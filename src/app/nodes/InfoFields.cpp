@@ -33,3 +33,25 @@ InfoFields getInfoFieldsArrayCopy()
     return InfoFieldsOfList(QByteArray::fromRawData(reinterpret_cast<const char*>(kDisplayFields),
                                                     sizeof kDisplayFields));
 }
+
+InfoFields FilledInfoFields(InfoFields all,
+                            const std::function<QString(const BaseInfoField&)>& textOf)
+{
+    InfoFields filled;
+    std::unique_ptr<CategoryInfoField> heading;  // until it gets its first field
+    for (std::unique_ptr<CategoryInfoField>& entry : all) {
+        auto* field = dynamic_cast<BaseInfoField*>(entry.get());
+        if (!field) {
+            heading = std::move(entry);
+            continue;
+        }
+        QString text = textOf(*field);
+        if (text.isEmpty())
+            continue;
+        field->setFieldContent(std::move(text));
+        if (heading)
+            filled.push_back(std::move(heading));
+        filled.push_back(std::move(entry));
+    }
+    return filled;
+}

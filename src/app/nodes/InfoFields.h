@@ -4,6 +4,7 @@
 #include "app/nodes/BaseTreeNode.h"
 
 #include <QByteArray>
+#include <functional>
 
 class CategoryInfoField : public BaseTreeNode {
 public:
@@ -44,3 +45,8 @@ using InfoFields = std::vector<std::unique_ptr<CategoryInfoField>>;
 [[nodiscard]] InfoFields getInfoFieldsArrayCopy();
 // The same from the bytes of such a list; empty for what is none.
 [[nodiscard]] InfoFields InfoFieldsOfList(const QByteArray& list);
+
+// Of `all` the fields for which `textOf` has a text, with it, each below its heading; headings of
+// nothing are left out.
+[[nodiscard]] InfoFields FilledInfoFields(
+    InfoFields all, const std::function<QString(const BaseInfoField&)>& textOf);
