@@ -91,6 +91,87 @@
         <source>Last check never</source>
         <translation>Never looked for updates.</translation>
     </message>
+    <message>
+        <source>1 frame</source>
+        <translation>1 frame</translation>
+    </message>
+    <message>
+        <source>N frames</source>
+        <translation>%1 frames</translation>
+    </message>
+    <message>
+        <source>Extracted Localizer</source>
+        <translation>Extracted Localizer</translation>
+    </message>
+    <message>
+        <source>Extracted Localizers</source>
+        <translation>%1 Extracted Localizers</translation>
+    </message>
+    <message>
+        <source>%@, %dx%d pixels</source>
+        <translatorcomment>%1: frames or localizers, in words; then width and height</translatorcomment>
+        <translation>%1, %2x%3 pixels</translation>
+    </message>
+    <message>
+        <source>%@, ... pixels</source>
+        <translatorcomment>stands until the size is known</translatorcomment>
+        <translation>%1, ... pixels</translation>
+    </message>
+    <message>
+        <source>... frames, ... pixels</source>
+        <translatorcomment>stands until both are known</translatorcomment>
+        <translation>... frames, ... pixels</translation>
+    </message>
+    <message>
+        <source>%.2f sec</source>
+        <translation>%1 sec</translation>
+    </message>
+    <message>
+        <source>%.2f sec, %dx%d pixels</source>
+        <translation>%1 sec, %2x%3 pixels</translation>
+    </message>
+    <message>
+        <source>... sec</source>
+        <translation>... sec</translation>
+    </message>
+    <message>
+        <source>... sec, ... pixels</source>
+        <translation>... sec, ... pixels</translation>
+    </message>
+    <message>
+        <source>%@, %d x %d pixels</source>
+        <translation>%1, %2 x %3 pixels</translation>
+    </message>
+    <message>
+        <source>%d x %d pixels</source>
+        <translation>%1 x %2 pixels</translation>
+    </message>
+    <message>
+        <source>... pixels</source>
+        <translation>... pixels</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>Patient Browser</source>
+        <translatorcomment>accessible name of the list of patients</translatorcomment>
+        <translation>Patient browser</translation>
+    </message>
+    <message>
+        <source>Info Pane</source>
+        <translatorcomment>title of the table of DICOM values</translatorcomment>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Show Info</source>
+        <translation>Show Info</translation>
+    </message>
+    <message>
+        <source>Hide Info</source>
+        <translation>Hide Info</translation>
+    </message>
 </context>
 <context>
     <name>ZELErrors</name>
@@ -1052,6 +1133,26 @@
     <message>
         <source>Untitled</source>
         <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>Reveal Selected in Finder</source>
+        <translation>Show Selected in File Manager</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Mark</translation>
+    </message>
+    <message>
+        <source>Text Only</source>
+        <translation>Text Only</translation>
+    </message>
+    <message>
+        <source>Icon Only</source>
+        <translation>Pictures Only</translation>
+    </message>
+    <message>
+        <source>Thumbnail Size</source>
+        <translation>Thumbnail Size</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,123 @@
+// The patient browser's rows: nodes beside a tree as an item model, in the mode that the icon size
+// stands for, and the thumbnails and texts that they wait for, made between events. Answers for the
+// tree's proxies, which nodes own. The tree and the host outlive it. Main thread only.
+//
+// On a tree of slow media a tick comes every 0.3 s and does one job. On any other, ticks follow one
+// another through the event loop while there is work, and each goes on for up to 12 ms.
+#pragma once
+#include "app/nodes/IconWorkQueue.h"
+#include "app/nodes/NodeTree.h"
+#include "browser/BrowserHost.h"
+#include "browser/RowLook.h"
+#include "dicom_core/opening/OpenObserver.h"
+#include "platform/NotificationCenter.h"
+
+#include <QAbstractItemModel>
+#include <QElapsedTimer>
+#include <QPersistentModelIndex>
+#include <QTimer>
+#include <unordered_map>
+#include <unordered_set>
+
+class ZELDcmTree;
+
+inline constexpr int kIconTick_ms = 300, kIconTickWork_ms = 12;
+inline constexpr int kColorsReload_ms = 500;
+
+class PatTreeDataSource final : public QAbstractItemModel, public SequenceProxies {
+    Q_OBJECT
+
+public:
+    explicit PatTreeDataSource(BrowserHost* host, QObject* parent = nullptr);
+    ~PatTreeDataSource() override;
+
+    void setupWithDicomTree(ZELDcmTree* tree);  // null: no rows
+    [[nodiscard]] ZELDcmTree* tree() const { return _tree; }
+
+    // ---- nodes ----
+
+    [[nodiscard]] DicomElemChildNode* rootDicomNode() const { return _rootDicomNode.get(); }
+    [[nodiscard]] const std::vector<DicomElemChildNode*>& sequenceNodes() const { return _leaves; }
+    [[nodiscard]] DicomElemChildNode* nodeFor(const dk_DicomBaseElem* element) const;  // or null
+    [[nodiscard]] DicomElemChildNode* nodeForZELSequence(const ZELSequenceProxy* proxy) const;
+    [[nodiscard]] static DicomElemChildNode* nodeAt(const QModelIndex& index);  // or null
+    [[nodiscard]] QModelIndex indexOf(const DicomElemChildNode* node) const;
+    // The sequence of the active grid; null for none.
+    void setTargetNode(DicomElemChildNode* node);
+    [[nodiscard]] DicomElemChildNode* targetNode() const { return fTargetDicomNode; }
+    void updateGridIDs();                                   // asks the host
+    void updateNodeForSequence(dk_SequenceBase* sequence);  // its row is painted anew
+
+    // ---- modes ----
+
+    [[nodiscard]] int iconSize() const { return _iconSize; }
+    void setIconSize(int size);  // kept as a preference
+    [[nodiscard]] bool iconOnly() const { return IsIconOnly(_iconSize); }
+    [[nodiscard]] bool textOnly() const { return IsTextOnly(_iconSize); }
+
+    // ---- rows ----
+
+    [[nodiscard]] int heightOfRowByItem(const QModelIndex& index, int outlineWidth) const;
+    // The row is being displayed: puts what it waits for in front.
+    [[nodiscard]] RowLook willDisplayCell(const QModelIndex& index, int rowHeight, bool expanded);
+    [[nodiscard]] QString toolTipOf(const QModelIndex& index) const;
+
+    // ---- work ----
+
+    void reloadAllIcons();
+    void pauseIconCalculator();
+    void restartIconCalculator(int expected);  // 0: what is pending
+    void handleImageCalc(DicomElemChildNode* node, const QImage& image, float height);
+    [[nodiscard]] const IconWorkQueue& iconWork() const { return _work; }
+    [[nodiscard]] bool isTicking() const { return _iconCalculator.isActive(); }
+
+    // ---- the tree's proxies ----
+
+    [[nodiscard]] ZELSequenceProxy* ProxyOf(dk_SequenceBase* sequence) override;
+    void EnsureProxyOf(dk_SequenceBase* sequence) override;
+    [[nodiscard]] bool HasCrops(dk_SequenceBase* sequence) override;
+    [[nodiscard]] std::shared_ptr<ZELSequenceProxy> proxyOf(dk_SequenceBase* sequence);
+
+    [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent) const override;
+    [[nodiscard]] QModelIndex parent(const QModelIndex& index) const override;
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& /*parent*/) const override { return 1; }
+    [[nodiscard]] bool hasChildren(const QModelIndex& parent) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    [[nodiscard]] QStringList mimeTypes() const override;
+    // The row that a drag of several carries; invalid: the first of them.
+    void setDragFirst(const QModelIndex& index) { _dragFirst = index; }
+    [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
+
+signals:
+    void rowHeightsChanged();
+    void needsDisplay();
+    void iconSizeChanged(int size);
+
+private:
+    void prepareNodeIcon();  // the tick
+    void createPreviewIconFor(DicomElemChildNode* node);
+    void updateTextsFor(DicomElemChildNode* node);
+    void scheduleTick();
+    void noteLater(DicomElemChildNode* node, bool height);
+    void tellNoted();
+    void tellOfRow(const DicomElemChildNode* node);
+    [[nodiscard]] IconWorkQueue::Surroundings surroundings() const;
+    [[nodiscard]] bool showsSequence(const QModelIndex& index) const;
+
+    BrowserHost* _host;
+    ZELDcmTree* _tree = nullptr;
+    std::unique_ptr<DicomElemChildNode> _rootDicomNode;
+    std::vector<DicomElemChildNode*> _leaves;  // sequences in tree order
+    std::unordered_map<const dk_DicomBaseElem*, DicomElemChildNode*> _nodes;
+    std::unordered_map<const DicomElemChildNode*, int> _leafRows;
+    DicomElemChildNode* fTargetDicomNode = nullptr;
+    int _iconSize;
+    IconWorkQueue _work;
+    QTimer _iconCalculator, _recalculator, _noteTimer;
+    std::unordered_set<const DicomElemChildNode*> _notedRows;
+    bool _notedHeights = false;
+    QPersistentModelIndex _dragFirst;
+    std::vector<NotificationCenter::Observation> _observations;
+};

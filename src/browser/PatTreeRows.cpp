@@ -1,0 +1,195 @@
+// The item model of PatTreeDataSource, and what its rows show.
+#include "app/grid/ZELSequenceProxy.h"
+#include "app/nodes/RepresentativeFrame.h"
+#include "browser/BrowserNotifications.h"
+#include "browser/PatTreeDataSource.h"
+#include "dicom_core/tree/dk_SequenceBase.h"
+
+DicomElemChildNode* PatTreeDataSource::nodeAt(const QModelIndex& index)
+{
+    return index.isValid() ? static_cast<DicomElemChildNode*>(index.internalPointer()) : nullptr;
+}
+
+QModelIndex PatTreeDataSource::indexOf(const DicomElemChildNode* node) const
+{
+    if (!node || node == _rootDicomNode.get())
+        return {};
+    int row = node->childIndexInParent();
+    if (iconOnly()) {
+        const auto leaf = _leafRows.find(node);
+        if (leaf == _leafRows.end())
+            return {};
+        row = leaf->second;
+    }
+    return createIndex(row, 0, const_cast<DicomElemChildNode*>(node));
+}
+
+QModelIndex PatTreeDataSource::index(int row, int column, const QModelIndex& parent) const
+{
+    if (row < 0 || column != 0 || row >= rowCount(parent))
+        return {};
+    if (iconOnly())
+        return createIndex(row, 0, _leaves[static_cast<std::size_t>(row)]);
+    const DicomElemChildNode* above = parent.isValid() ? nodeAt(parent) : _rootDicomNode.get();
+    return createIndex(row, 0, above->childAtIndex(row));
+}
+
+QModelIndex PatTreeDataSource::parent(const QModelIndex& index) const
+{
+    const DicomElemChildNode* node = nodeAt(index);
+    return node && !iconOnly() ? indexOf(node->parent()) : QModelIndex();
+}
+
+int PatTreeDataSource::rowCount(const QModelIndex& parent) const
+{
+    if (!_rootDicomNode)
+        return 0;
+    if (iconOnly())
+        return parent.isValid() ? 0 : static_cast<int>(_leaves.size());
+    return parent.isValid() ? nodeAt(parent)->numberOfChildren()
+                            : _rootDicomNode->numberOfChildren();
+}
+
+bool PatTreeDataSource::hasChildren(const QModelIndex& parent) const
+{
+    return rowCount(parent) > 0;
+}
+
+QVariant PatTreeDataSource::data(const QModelIndex& index, int role) const
+{
+    DicomElemChildNode* node = nodeAt(index);
+    if (!node)
+        return {};
+    if (role == Qt::DisplayRole)
+        return node->description();
+    if (role == Qt::ToolTipRole)
+        return QStringLiteral("<span>%1</span>")
+            .arg(
+                toolTipOf(index).toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")));
+    if (role == Qt::AccessibleTextRole)
+        return toolTipOf(index).replace(QLatin1Char('\n'), QLatin1String(", "));
+    return {};
+}
+
+Qt::ItemFlags PatTreeDataSource::flags(const QModelIndex& index) const
+{
+    constexpr Qt::ItemFlags kSequence =
+        Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    return showsSequence(index) ? kSequence : Qt::ItemFlags(Qt::ItemIsEnabled);
+}
+
+bool PatTreeDataSource::showsSequence(const QModelIndex& index) const
+{
+    const DicomElemChildNode* node = nodeAt(index);
+    return node && node->sequence();
+}
+
+// ---- rows ---------------------------------------------------------------------------------------
+
+int PatTreeDataSource::heightOfRowByItem(const QModelIndex& index, int outlineWidth) const
+{
+    return showsSequence(index)
+               ? U_CalcCellRowHeight(_iconSize, nodeAt(index)->iconHeight(), outlineWidth)
+               : kHeadingHeight;
+}
+
+RowLook PatTreeDataSource::willDisplayCell(const QModelIndex& index, int rowHeight, bool expanded)
+{
+    constexpr int kIconAbove = 23, kTwoLinesAbove = 33, kThreeLinesAbove = 49;
+    DicomElemChildNode* node = nodeAt(index);
+    RowLook look;
+    look.title = node->description();
+    look.iconSize = _iconSize;
+    if (!node->sequence()) {
+        look.kind = node->level() == 0 ? RowLook::Kind::Patient : RowLook::Kind::Parent;
+        if (!expanded)
+            look.gridsBelow = node->gridIDsBelow();
+        return look;
+    }
+    if (!textOnly() && rowHeight > kIconAbove) {
+        _work.checkItemIconAndMoveToTop(node);
+        look.icon = node->repIcon();
+        look.iconHeight = node->iconHeight();
+    }
+    look.gridID = node->gridID();
+    look.isTarget = node->isTarget();
+    look.isMarked = node->userMarked();
+    if (!iconOnly()) {
+        const bool fast = _host->fastPatientListStartON() && node->textMissing();
+        const bool lines3 = rowHeight > kThreeLinesAbove;
+        _work.checkItemTextAndMoveToTop(node);
+        look.subtitle = node->subtitleString(lines3, rowHeight > kTwoLinesAbove, fast);
+        if (lines3)
+            look.dims = node->dimensionStringFast(fast);
+    }
+    scheduleTick();
+    return look;
+}
+
+// A row that the list shows only in part, in full; reads no file.
+QString PatTreeDataSource::toolTipOf(const QModelIndex& index) const
+{
+    DicomElemChildNode* node = nodeAt(index);
+    if (!node)
+        return {};
+    const QString more = node->sequence() ? node->dimensionStringFast(true) : QString();
+    return more.isEmpty() ? node->description() : node->description() + QLatin1Char('\n') + more;
+}
+
+// ---- what becomes ready -------------------------------------------------------------------------
+
+void PatTreeDataSource::createPreviewIconFor(DicomElemChildNode* node)
+{
+    QImage image = U_RepresentativeFrameImageFor(node->sequence(), false);
+    if (image.isNull()) {
+        image = QImage(1, 1, QImage::Format_RGB32);
+        image.fill(Qt::white);
+    }
+    NotificationCenter::Default().Post(
+        kNoteCellImageCalcFinished, this,
+        {{QLatin1String(kKeyCellNode), QVariant::fromValue(static_cast<void*>(node))},
+         {QLatin1String(kKeyCellImage), image},
+         {QLatin1String(kKeyCellImageHeight), U_IconHeightOf(image)}});
+}
+
+void PatTreeDataSource::updateTextsFor(DicomElemChildNode* node)
+{
+    NotificationCenter::Default().Post(
+        kNoteCellImageCalcFinished, this,
+        {{QLatin1String(kKeyCellNode), QVariant::fromValue(static_cast<void*>(node))}});
+}
+
+void PatTreeDataSource::handleImageCalc(DicomElemChildNode* node, const QImage& image, float height)
+{
+    if (image.isNull()) {
+        node->setNooodeTextOK();
+        return noteLater(node, false);
+    }
+    const float before = node->iconHeight();
+    node->setNooodeImage(image, height);
+    noteLater(node, node->iconHeight() != before);
+}
+
+void PatTreeDataSource::noteLater(DicomElemChildNode* node, bool height)
+{
+    _notedRows.insert(node);
+    _notedHeights = _notedHeights || height;
+    if (!_noteTimer.isActive())
+        _noteTimer.start(0);
+}
+
+void PatTreeDataSource::tellNoted()
+{
+    const auto rows = std::exchange(_notedRows, {});
+    if (std::exchange(_notedHeights, false))
+        emit rowHeightsChanged();
+    for (const DicomElemChildNode* node : rows)
+        tellOfRow(node);
+}
+
+void PatTreeDataSource::tellOfRow(const DicomElemChildNode* node)
+{
+    const QModelIndex index = indexOf(node);
+    if (index.isValid())
+        emit dataChanged(index, index);
+}
