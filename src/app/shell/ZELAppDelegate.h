@@ -57,6 +57,7 @@ private:
     ZELRecentDocuments& recents() override { return _recents; }
     void windowClosed() override;
     void quit() override;
+    [[nodiscard]] bool inQTModalMode() const override { return _controller.inQTModalMode(); }
     void showHidePreferencesWindow() override;
     void showPreferencesPane(const char* pane) override;
     void offerPreset(float width, float level) override;

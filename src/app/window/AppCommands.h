@@ -18,6 +18,8 @@ public:
     // A window has been closed, and can be thrown away.
     virtual void windowClosed() = 0;
     virtual void quit() = 0;
+    // Something modal runs that nothing else may interrupt.
+    [[nodiscard]] virtual bool inQTModalMode() const = 0;
 
     virtual void showHidePreferencesWindow() = 0;
     virtual void showPreferencesPane(const char* pane) = 0;  // by its identifier

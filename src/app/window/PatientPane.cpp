@@ -1,56 +1,108 @@
 #include "app/window/PatientPane.h"
 
-#include "app/views/SequenceMime.h"
-#include "app/window/WindowWords.h"
+#include "app/nodes/DicomElemChildNode.h"
+#include "browser/BrowserBar.h"
+#include "browser/InfoPane.h"
+#include "browser/ZELPatientOutlineView.h"
 #include "dicom_core/opening/ZELDcmTree.h"
+#include "prefs/Prefs.h"
 
-#include <QHeaderView>
-#include <QTreeView>
+#include <QSplitter>
 #include <QVBoxLayout>
 
-PatientPane::PatientPane(ZELDcmTree* tree, const void* window, QWidget* parent)
-    : QWidget(parent), _sequences(RowsOfTree(*tree)), _list(new QTreeView(this))
+namespace {
+
+constexpr int kFirstInfoHeight = 220;  // view points
+
+}  // namespace
+
+PatientPane::PatientPane(BrowserHost* host, ZELDcmTree* tree, QWidget* parent)
+    : QWidget(parent),
+      _tree(tree),
+      _source(std::make_unique<PatTreeDataSource>(host)),
+      _split(new QSplitter(Qt::Vertical, this))
 {
-    auto* box = new QVBoxLayout(this);
-    box->setContentsMargins({});
-    box->addWidget(_list);
-    _list->setModel(&_sequences);
-    _list->setAccessibleName(ViewerWord("Sequences"));
-    _list->setUniformRowHeights(true);
-    _list->setDragEnabled(true);
-    _list->setFocusPolicy(Qt::TabFocus);
-    _sequences.dataOfDrag = [this, window](dk_SequenceBase* sequence) {
-        return new SequenceMime(kTreeNodePasteboardType, proxyOf(sequence), window);
-    };
-    connect(_list, &QTreeView::activated, this, [this](const QModelIndex& index) {
-        const TreeRow row = index.isValid() ? _sequences.treeRow(index.row()) : TreeRow();
-        if (row.IsSequence() && doubleClicked)
-            doubleClicked(row.Sequence());
-    });
+    _source->setupWithDicomTree(tree);
+    tree->setSequenceProxies(_source.get());
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->addWidget(_split);
+    auto* upper = new QWidget(_split);
+    auto* rows = new QVBoxLayout(upper);
+    rows->setContentsMargins({});
+    rows->setSpacing(0);
+    _outline = new ZELPatientOutlineView(_source.get(), host, upper);
+    rows->addWidget(_outline, 1);
+    rows->addWidget(new BrowserBar(_source.get(), upper));
+    upper->setMinimumHeight(kLeastBrowserHeight);
+    _split->addWidget(upper);
+    _info = new InfoPane(host->windowKey(), _split);
+    _split->setCollapsible(0, false);
+    _split->setStretchFactor(0, 1);
+    _outline->U_ExpandTreeToSequences();
 }
 
-PatientPane::~PatientPane() { _list->setModel(nullptr); }
+PatientPane::~PatientPane()
+{
+    _tree->setSequenceProxies(nullptr);
+    delete _split;  // its views go before what they show
+}
 
 std::shared_ptr<ZELSequenceProxy> PatientPane::proxyOf(dk_SequenceBase* sequence)
 {
-    auto& proxy = _proxies[sequence];
-    if (!proxy)
-        proxy = std::make_shared<ZELSequenceProxy>(sequence);
-    return proxy;
+    return _source->proxyOf(sequence);
 }
 
-void PatientPane::updateNodeForSequence(dk_SequenceBase*) { _list->viewport()->update(); }
+void PatientPane::updateNodeForSequence(dk_SequenceBase* sequence)
+{
+    _source->updateNodeForSequence(sequence);
+}
+
+void PatientPane::updateGridIDs() { _source->updateGridIDs(); }
 
 std::vector<dk_SequenceBase*> PatientPane::selectedSequences() const
 {
-    std::vector<dk_SequenceBase*> found;
-    for (const QModelIndex& index : _list->selectionModel()->selectedRows())
-        if (const TreeRow& row = _sequences.treeRow(index.row()); row.IsSequence())
-            found.push_back(row.Sequence());
-    return found;
+    std::vector<dk_SequenceBase*> sequences;
+    for (const DicomElemChildNode* node : _outline->selectedNodes()) {
+        if (node->sequence())
+            sequences.push_back(node->sequence());
+    }
+    return sequences;
 }
 
 void PatientPane::selectRow(dk_SequenceBase* sequence)
 {
-    _list->setCurrentIndex(_sequences.indexOf(sequence));
+    _outline->U_SelectRowFor_dkSequence(sequence, false);
+}
+
+void PatientPane::fillSlowTexts() { _outline->viewport()->update(); }
+
+void PatientPane::stopWork() { _source->pauseIconCalculator(); }
+
+bool PatientPane::showsStudyInfo() const { return !_info->viewIsClosed(); }
+
+void PatientPane::toggleInfoPane() { _info->toggleInfoPane(); }
+
+void PatientPane::saveSplit() const
+{
+    const QList<int> sizes = _split->sizes();
+    prefs_Set_PatientViewSplitSizes({sizes.begin(), sizes.end()});
+}
+
+// Sizes count once the pane has its own.
+void PatientPane::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!std::exchange(_splitIsApplied, true))
+        applySavedSplit();
+}
+
+void PatientPane::applySavedSplit()
+{
+    const std::vector<int> saved = prefs_PatientViewSplitSizes();
+    if (saved.size() == 2)
+        _split->setSizes({saved.begin(), saved.end()});
+    else
+        _split->setSizes({height() - kFirstInfoHeight, kFirstInfoHeight});
+    _info->updateView();
 }

@@ -1,33 +1,50 @@
-// The left pane of a window: the list of patients, studies and sequences. Main thread only.
+// The left pane of a window: the browser of patients, studies and sequences, and below it the values
+// of the selected sequence. Main thread only.
 #pragma once
-#include "app/grid/ZELSequenceProxy.h"
-#include "app/window/SequenceListModel.h"
+#include "browser/BrowserHost.h"
 
 #include <QWidget>
-#include <functional>
-#include <map>
 #include <memory>
 
-class QTreeView;
+class InfoPane;
+class PatTreeDataSource;
+class QSplitter;
 class ZELDcmTree;
+class ZELPatientOutlineView;
+class ZELSequenceProxy;
 
 class PatientPane final : public QWidget {
     Q_OBJECT
 
 public:
-    PatientPane(ZELDcmTree* tree, const void* window, QWidget* parent = nullptr);
+    // Host and tree outlive the pane. The tree's proxies are its.
+    PatientPane(BrowserHost* host, ZELDcmTree* tree, QWidget* parent = nullptr);
     ~PatientPane() override;
 
     [[nodiscard]] std::shared_ptr<ZELSequenceProxy> proxyOf(dk_SequenceBase* sequence);
     void updateNodeForSequence(dk_SequenceBase* sequence);
+    void updateGridIDs();  // sequences have changed their grids
     [[nodiscard]] std::vector<dk_SequenceBase*> selectedSequences() const;
-    void selectRow(dk_SequenceBase* sequence);
-    [[nodiscard]] QTreeView* list() const { return _list; }
+    void selectRow(dk_SequenceBase* sequence);  // without revealing it
+    // The window is ready: texts that need files come in.
+    void fillSlowTexts();
+    void stopWork();  // for good
 
-    std::function<void(dk_SequenceBase*)> doubleClicked;
+    [[nodiscard]] bool showsStudyInfo() const;
+    void toggleInfoPane();
+    void saveSplit() const;
+    [[nodiscard]] ZELPatientOutlineView* outline() const { return _outline; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
-    std::map<dk_SequenceBase*, std::shared_ptr<ZELSequenceProxy>> _proxies;
-    SequenceListModel _sequences;
-    QTreeView* _list;
+    void applySavedSplit();
+
+    ZELDcmTree* _tree;
+    std::unique_ptr<PatTreeDataSource> _source;
+    QSplitter* _split;
+    ZELPatientOutlineView* _outline;
+    InfoPane* _info;
+    bool _splitIsApplied = false;
 };

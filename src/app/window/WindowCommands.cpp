@@ -1,9 +1,9 @@
 #include "app/window/WindowCommands.h"
 
 #include "app/grid/CineRules.h"
+#include "app/grid/SequenceMarks.h"
 #include "app/tools/BnCDialogController.h"
 #include "app/tools/TargetWatch.h"
-#include "app/window/SequenceMarks.h"
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "dicom_core/tree/dk_SequenceFrameInfo.h"
 #include "platform/Words.h"
@@ -64,16 +64,22 @@ bool Tree(const T& t)
 
 bool IsMarked(const T& t) { return Target(t) && Target(t)->userMarked(); }
 
-template <MarkChange Change>
-void MarkTree(const T& t)
+void ChangeMarks(const T& t, const std::vector<dk_SequenceBase*>& sequences, SequenceMark change)
 {
-    MarkSequences(*t.host, SequencesOfTree(*t.host->tree()), Change);
+    for (dk_SequenceBase* changed : MarkSequences(*t.host->tree(), sequences, change))
+        t.host->updateNodeForSequence(changed);
 }
 
-template <MarkChange Change>
+template <SequenceMark Change>
+void MarkTree(const T& t)
+{
+    ChangeMarks(t, SequencesOfTree(*t.host->tree()), Change);
+}
+
+template <SequenceMark Change>
 void MarkSelection(const T& t)
 {
-    MarkSequences(*t.host, t.panes->selectedSequences(), Change);
+    ChangeMarks(t, t.panes->selectedSequences(), Change);
 }
 
 bool HasSelection(const T& t) { return t.panes->selectedSequences().size() >= 2; }
@@ -291,12 +297,12 @@ constexpr Row kRows[] = {
     {C::MeasurementPane, kTurned, "Show Measurement Pane", "Hide Measurement Pane", Is<&W::showsMeasurementInfoBox>, Always, HasMeasurements, Do<&W::showHideMeasurementInfoBox>, "Ctrl+Shift+M"},
     {C::MetadataPalette, kPlain, "Show Metadata Palette", nullptr, nullptr, HasPalette, Always, DoNothing, "Ctrl+D"},
     {C::SwitchSequenceMark, kTurned, "Mark Current Sequence", "Unmark Current Sequence", IsMarked, Always, Always, SwitchMark, "Ctrl+M"},
-    {C::MarkAll, kPlain, "Mark All", nullptr, nullptr, Tree<&D::hasUnmarkedSequences>, Always, MarkTree<MarkChange::Mark>},
-    {C::UnmarkAll, kPlain, "Unmark All", nullptr, nullptr, Tree<&D::hasMarkedSequences>, Always, MarkTree<MarkChange::Unmark>},
-    {C::SwitchAllMarked, kPlain, "Toggle Marked", nullptr, nullptr, Tree<&D::hasGoodSequences>, Always, MarkTree<MarkChange::Switch>},
-    {C::MarkSelected, kPlain, "Mark Selected", nullptr, nullptr, SelectionHas<false>, Always, MarkSelection<MarkChange::Mark>},
-    {C::UnmarkSelected, kPlain, "Unmark Selected", nullptr, nullptr, SelectionHas<true>, Always, MarkSelection<MarkChange::Unmark>},
-    {C::SwitchSelectedMarked, kPlain, "Toggle Marked in Selection", nullptr, nullptr, HasSelection, Always, MarkSelection<MarkChange::Switch>},
+    {C::MarkAll, kPlain, "Mark All", nullptr, nullptr, Tree<&D::hasUnmarkedSequences>, Always, MarkTree<SequenceMark::Set>},
+    {C::UnmarkAll, kPlain, "Unmark All", nullptr, nullptr, Tree<&D::hasMarkedSequences>, Always, MarkTree<SequenceMark::Clear>},
+    {C::SwitchAllMarked, kPlain, "Toggle Marked", nullptr, nullptr, Tree<&D::hasGoodSequences>, Always, MarkTree<SequenceMark::Switch>},
+    {C::MarkSelected, kPlain, "Mark Selected", nullptr, nullptr, SelectionHas<false>, Always, MarkSelection<SequenceMark::Set>},
+    {C::UnmarkSelected, kPlain, "Unmark Selected", nullptr, nullptr, SelectionHas<true>, Always, MarkSelection<SequenceMark::Clear>},
+    {C::SwitchSelectedMarked, kPlain, "Toggle Marked in Selection", nullptr, nullptr, HasSelection, Always, MarkSelection<SequenceMark::Switch>},
     {C::ResetAll, kPlain, "Reset All", nullptr, nullptr, CanRevert<kEverything>, kStill, Actions<&A::resetAllChanges>, "Ctrl+Shift+R"},
     {C::ResetColors, kPlain, "Reset Colors", nullptr, nullptr, CanRevert<kRevertColors>, kStill, Actions<&A::resetColors>},
     {C::ResetOrientation, kPlain, "Reset Orientation", nullptr, nullptr, CanRevert<kOrientation>, kStill, Actions<&A::resetOrientation>},

@@ -16,6 +16,7 @@
 #include "prefs/Prefs.h"
 
 #include "qpix/zelImageSource.h"
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QScreen>
@@ -40,10 +41,7 @@ ZELMainWindowController::ZELMainWindowController(AppCommands* app, std::unique_p
         _firstFile = std::make_unique<zelParserVisit>(first->GetImageFrameInfo(1)->fSource);
     setWindowTitle(WindowTitleText(DisplayName(represented)));
     setAcceptDrops(true);
-    _patients = new PatientPane(_imagesDB.get(), windowKey(), this);
-    _patients->doubleClicked = [this](dk_SequenceBase* sequence) {
-        _pane->handleDoubleClickOnSequenceItem(sequence);
-    };
+    _patients = new PatientPane(this, _imagesDB.get(), this);
     _pane = new GridsPane(this, _imagesDB.get(), this);
     const WindowTarget target{_pane, &_pane->actions(), &_pane->tools(), this};
     _toolBar = new MainToolBar(target, this);
@@ -135,8 +133,43 @@ void ZELMainWindowController::updateNodeForSequence(dk_SequenceBase* sequence)
     _patients->updateNodeForSequence(sequence);
 }
 
+dk_SequenceBase* ZELMainWindowController::activeSequence() const
+{
+    return _pane && _pane->proxy() ? _pane->proxy()->theSequence() : nullptr;
+}
+
+std::vector<dk_SequenceBase*> ZELMainWindowController::sequencesInGrids() const
+{
+    std::vector<dk_SequenceBase*> shown;
+    if (_pane) {
+        for (const GridsPane::Grid* grid : _pane->gridControllers())
+            shown.push_back(grid->curr_dkSequence());
+    }
+    return shown;
+}
+
+bool ZELMainWindowController::windowHasSheetOpen() const
+{
+    const QWidget* modal = QApplication::activeModalWidget();
+    return modal && isAncestorOf(modal);
+}
+
+bool ZELMainWindowController::inQTModalMode() const { return _app->inQTModalMode(); }
+
+void ZELMainWindowController::doubleClickOnPatientListRow(dk_SequenceBase* sequence)
+{
+    _pane->handleDoubleClickOnSequenceItem(sequence);
+}
+
+void ZELMainWindowController::revealFiles(const std::vector<std::string>& paths)
+{
+    for (const std::string& path : paths)
+        _pane->revealFile(path);
+}
+
 void ZELMainWindowController::targetChanged(dk_SequenceBase* sequence)
 {
+    _patients->updateGridIDs();
     _patients->selectRow(sequence);
     _status->updateFrom(*_pane);
     updateToolbarElements();
@@ -178,6 +211,8 @@ void ZELMainWindowController::bringToFront()
 void ZELMainWindowController::setZelWindowIsReady()
 {
     _zelWindowIsReady = true;
+    if (std::exchange(_fastPatientListStartON, false))
+        _patients->fillSlowTexts();
     _pane->view()->becomeFirstResponder();
 }
 
@@ -209,6 +244,7 @@ void ZELMainWindowController::postMainWindowChange(bool movingOut)
 void ZELMainWindowController::setWindowClosing()
 {
     _windowClosing = true;
+    _patients->stopWork();
     _pane->stopAllCines();
 }
 
@@ -226,6 +262,7 @@ void ZELMainWindowController::windowWillClose()
     if (_patients->isVisible()) {
         const QList<int> sizes = _split->sizes();
         prefs_Set_MainSplitSizes({sizes.begin(), sizes.end()});
+        _patients->saveSplit();
     }
     prefs_Set_MainWindowGeometry(saveGeometry());
     postMainWindowChange(true);

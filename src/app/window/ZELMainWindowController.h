@@ -5,6 +5,7 @@
 #include "app/window/FullScreenPanes.h"
 #include "app/window/GridsPane.h"
 #include "app/window/WindowCommands.h"
+#include "browser/BrowserHost.h"
 #include "dicom_core/opening/RecentDocuments.h"
 
 #include <QMainWindow>
@@ -20,7 +21,10 @@ class StatusLine;
 class ZELDcmTree;
 class zelParserVisit;
 
-class ZELMainWindowController final : public QMainWindow, private GridsWindow, private WindowPanes {
+class ZELMainWindowController final : public QMainWindow,
+                                      private GridsWindow,
+                                      private BrowserHost,
+                                      private WindowPanes {
     Q_OBJECT
 
 public:
@@ -52,12 +56,19 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    // GridsWindow
+    // GridsWindow, BrowserHost
     [[nodiscard]] const void* windowKey() const override { return this; }
     [[nodiscard]] bool zelWindowIsReady() const override { return _zelWindowIsReady; }
     [[nodiscard]] bool windowIsClosing() const override { return _windowClosing; }
     [[nodiscard]] std::shared_ptr<ZELSequenceProxy> proxyOf(dk_SequenceBase* sequence) override;
     void updateNodeForSequence(dk_SequenceBase* sequence) override;
+    [[nodiscard]] dk_SequenceBase* activeSequence() const override;
+    [[nodiscard]] std::vector<dk_SequenceBase*> sequencesInGrids() const override;
+    [[nodiscard]] bool windowHasSheetOpen() const override;
+    [[nodiscard]] bool fastPatientListStartON() const override { return _fastPatientListStartON; }
+    [[nodiscard]] bool inQTModalMode() const override;
+    void doubleClickOnPatientListRow(dk_SequenceBase* sequence) override;
+    void revealFiles(const std::vector<std::string>& paths) override;
     // WindowPanes
     [[nodiscard]] bool hasFeature(Feature feature) const override;
     [[nodiscard]] MultiGridViewController& multiGridController() const override;
@@ -104,4 +115,5 @@ private:
     bool _painted = false, _wholly = true;
     bool _firstTimeFlag = true;  // it has not been the key window yet
     bool _windowClosing = false, _zelWindowIsReady = false;
+    bool _fastPatientListStartON = true;  // rows make do with what is known without files
 };

@@ -66,9 +66,12 @@ void ZELMainWindowController::showHidePatientList()
     prefs_Synchronize();
 }
 
-bool ZELMainWindowController::showsStudyInfo() const { return false; }
+bool ZELMainWindowController::showsStudyInfo() const
+{
+    return showsPatientList() && _patients->showsStudyInfo();
+}
 
-void ZELMainWindowController::showHideStudyInfo() {}
+void ZELMainWindowController::showHideStudyInfo() { _patients->toggleInfoPane(); }
 
 bool ZELMainWindowController::showsZELToolbar() const { return !infoBarBox->isHidden(); }
 

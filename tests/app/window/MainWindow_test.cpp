@@ -29,6 +29,7 @@ public:
     }
     ZELRecentDocuments& recents() override { return documents; }
     void windowClosed() override { log.push_back("closed"); }
+    bool inQTModalMode() const override { return false; }
     void quit() override { log.push_back("quit"); }
     void showHidePreferencesWindow() override { log.push_back("preferences"); }
     void showPreferencesPane(const char* pane) override { log.emplace_back(pane); }

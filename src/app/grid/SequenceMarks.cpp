@@ -1,6 +1,5 @@
-#include "app/window/SequenceMarks.h"
+#include "app/grid/SequenceMarks.h"
 
-#include "app/grid/GridHost.h"
 #include "app/grid/ZELSequenceProxy.h"
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
@@ -16,21 +15,24 @@ std::vector<dk_SequenceBase*> SequencesOfTree(const ZELDcmTree& tree)
     return all;
 }
 
-void MarkSequences(GridHost& host, const std::vector<dk_SequenceBase*>& sequences,
-                   MarkChange change)
+std::vector<dk_SequenceBase*> MarkSequences(const ZELDcmTree& tree,
+                                            const std::vector<dk_SequenceBase*>& sequences,
+                                            SequenceMark change)
 {
+    std::vector<dk_SequenceBase*> changed;
     for (dk_SequenceBase* sequence : sequences) {
         const bool marked =
-            change == MarkChange::Switch ? !sequence->fMarked : change == MarkChange::Mark;
+            change == SequenceMark::Switch ? !sequence->fMarked : change == SequenceMark::Set;
         if (!sequence->IsGood() || sequence->fMarked == marked)
             continue;
         // Most sequences of a large tree have no proxy, and need none for this.
-        if (ZELSequenceProxy* proxy = host.tree()->sequenceFor_dkSequence(sequence))
+        if (ZELSequenceProxy* proxy = tree.sequenceFor_dkSequence(sequence))
             proxy->setUserMarked(marked);
         else
             sequence->fMarked = marked;
-        host.updateNodeForSequence(sequence);
+        changed.push_back(sequence);
     }
+    return changed;
 }
 
 bool HasSequence(const std::vector<dk_SequenceBase*>& sequences, bool marked)
