@@ -1,0 +1,25 @@
+// One process for each place that the program is started from: a later start hands its paths to the
+// one that runs, over a socket in a folder of the user's, and ends. Paths are bytes. Main thread
+// only.
+#pragma once
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class HandOver {
+public:
+    using Received = std::function<void(std::vector<std::string> paths)>;
+
+    virtual ~HandOver() = default;
+    // From now on, from the event loop; what came before waits until then.
+    virtual void setReceived(Received received) = 0;
+};
+
+// Null: another process of that place runs and has taken the paths, which are absolute. Otherwise
+// this one is the one that others hand over to, until the object goes; one that can't be reached
+// within `patience_ms` is given up, and this one goes on without others.
+[[nodiscard]] std::unique_ptr<HandOver> HandOverOrStart(const std::string& folder,
+                                                        const std::string& place,
+                                                        const std::vector<std::string>& paths,
+                                                        int patience_ms = 2000);
