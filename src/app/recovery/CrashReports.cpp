@@ -1,0 +1,115 @@
+#include "app/recovery/CrashReports.h"
+
+#include "util/Log.h"
+
+#include <QProcess>
+#include <QString>
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kMostText = 256 * 1024;
+constexpr int kPatience_ms = 2000;
+
+std::string AsText(std::string bytes)
+{
+    if (bytes.size() > kMostText)
+        bytes.erase(0, bytes.size() - kMostText);
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()))
+        .replace(QChar::ReplacementCharacter, u'?')
+        .remove(QChar(0))
+        .toStdString();
+}
+
+}  // namespace
+
+std::vector<std::string> U_CollectCrashReportPaths(const std::string& programName,
+                                                   const std::string& folder,
+                                                   std::string_view suffix)
+{
+    std::vector<std::string> paths;
+    std::error_code failed;
+    for (fs::recursive_directory_iterator each(folder, failed), end; !failed && each != end;
+         each.increment(failed)) {
+        const std::string relative = each->path().lexically_relative(folder).native();
+        std::error_code unknown;
+        if (relative.starts_with(programName + '_') && relative.ends_with(suffix) &&
+            each->is_regular_file(unknown) && !each->is_symlink(unknown))
+            paths.push_back(each->path().native());
+    }
+    std::ranges::sort(paths);
+    return paths;
+}
+
+bool U_CrashReportExists(const std::string& programName, const std::string& folder)
+{
+    return !U_CollectCrashReportPaths(programName, folder, kCrashSuffix).empty();
+}
+
+std::string U_GetUniqueFileName(const std::string& folder, const std::string& name)
+{
+    const fs::path wanted = fs::path(folder) / name;
+    fs::path free = wanted;
+    std::error_code failed;
+    for (int i = 1; fs::exists(free, failed); ++i)
+        free = wanted.parent_path() / (wanted.stem().native() + '_' + std::to_string(i) +
+                                       wanted.extension().native());
+    return free.native();
+}
+
+void clearOlderCrashLogs(const std::string& programName, const std::string& folder)
+{
+    for (const std::string_view suffix : {kCrashSuffix, kHangSuffix}) {
+        auto paths = U_CollectCrashReportPaths(programName, folder, suffix);
+        if (!paths.empty())
+            paths.pop_back();
+        for (const std::string& path : paths) {
+            std::error_code ignored;
+            fs::remove(path, ignored);
+        }
+    }
+}
+
+std::string ReportFileText(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    if (!file)
+        return {};
+    const auto size = static_cast<std::size_t>(std::max<std::streamoff>(file.tellg(), 0));
+    const std::size_t kept = std::min(size, kMostText);
+    file.seekg(static_cast<std::streamoff>(size - kept));
+    std::string bytes(kept, '\0');
+    file.read(bytes.data(), static_cast<std::streamsize>(kept));
+    bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(file.gcount(), 0)));
+    return AsText(std::move(bytes));
+}
+
+std::string SystemLogText(const std::string& programName)
+{
+    QProcess journal;
+    journal.start(QStringLiteral("journalctl"),
+                  {QStringLiteral("--no-pager"), QStringLiteral("--lines=500"),
+                   QStringLiteral("_COMM=%1").arg(QString::fromStdString(programName))});
+    if (!journal.waitForFinished(kPatience_ms)) {
+        journal.kill();
+        journal.waitForFinished(kPatience_ms);
+        return {};
+    }
+    return journal.exitCode() == 0 ? AsText(journal.readAllStandardOutput().toStdString())
+                                   : std::string();
+}
+
+std::string zipCrashLogs(const std::string& folder, const std::vector<ZipEntry>& entries)
+{
+    const std::string path = U_GetUniqueFileName(folder, "CrashLogs.zip");
+    if (const QvxStatus status = WriteZipArchive(path, entries)) {
+        LogLine("ZipException caught: " + std::to_string(status) +
+                " - Error in creating logs zip file");
+        return {};
+    }
+    return path;
+}
