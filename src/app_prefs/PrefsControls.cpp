@@ -3,12 +3,12 @@
 #include "app_prefs/PrefsWords.h"
 
 #include <QColorDialog>
-#include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QStyleOptionButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -16,18 +16,13 @@ namespace {
 constexpr QSize kSwatch{44, 16};  // points
 
 // Where the color is see-through, a check shows behind it.
-QPixmap SwatchOf(const QColor& color, const QPalette& palette, qreal scale)
+void DrawSwatch(QPainter& painter, const QRectF& area, const QColor& color, const QColor& edge)
 {
-    QPixmap picture(kSwatch * scale);
-    picture.setDevicePixelRatio(scale);
-    QPainter painter(&picture);
-    const QRectF area(QPointF(0, 0), kSwatch);
     painter.fillRect(area, Qt::white);
     painter.fillRect(area, QBrush(Qt::gray, Qt::Dense4Pattern));
     painter.fillRect(area, color);
-    painter.setPen(palette.color(QPalette::ButtonText));
+    painter.setPen(edge);
     painter.drawRect(area.adjusted(0.5, 0.5, -0.5, -0.5));
-    return picture;
 }
 
 }  // namespace
@@ -35,7 +30,6 @@ QPixmap SwatchOf(const QColor& color, const QPalette& palette, qreal scale)
 ColorButton::ColorButton(const ColorSetting& setting, QWidget* parent)
     : QPushButton(parent), _setting(&setting)
 {
-    setIconSize(kSwatch);
     setToolTip(PrefsTip(setting.title));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QPushButton::clicked, this, &ColorButton::openPanel);
@@ -45,7 +39,7 @@ ColorButton::ColorButton(const ColorSetting& setting, QWidget* parent)
 void ColorButton::refresh()
 {
     const QColor color = ColorOf(*_setting);
-    setIcon(SwatchOf(color, palette(), devicePixelRatioF()));
+    update();
     const QString name = color.name(_setting->hasAlpha ? QColor::HexArgb : QColor::HexRgb);
     setAccessibleName(QStringLiteral("%1: %2").arg(PrefsWord(_setting->title), name));
 }
@@ -64,11 +58,20 @@ void ColorButton::openPanel()
     choose(QColorDialog::getColor(ColorOf(*_setting), this, PrefsWord(_setting->title), options));
 }
 
-void ColorButton::changeEvent(QEvent* event)
+QSize ColorButton::sizeHint() const
 {
-    QPushButton::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        refresh();
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_PushButton, &option, kSwatch, this);
+}
+
+// Painted and no icon, so that it is sharp on every screen that the window comes to.
+void ColorButton::paintEvent(QPaintEvent* event)
+{
+    QPushButton::paintEvent(event);
+    QPainter painter(this);
+    const QRect area = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, kSwatch, rect());
+    DrawSwatch(painter, area, ColorOf(*_setting), palette().color(QPalette::ButtonText));
 }
 
 std::vector<ColorButton*> AddColors(std::span<const ColorSetting> settings, QFormLayout* form)

@@ -24,10 +24,10 @@ public:
     void refresh();
     // As if the user had chosen it in the panel.
     void choose(const QColor& color);
-    [[nodiscard]] const ColorSetting& setting() const { return *_setting; }
+    [[nodiscard]] QSize sizeHint() const override;
 
 protected:
-    void changeEvent(QEvent* event) override;  // the swatch's edge follows the palette
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void openPanel();

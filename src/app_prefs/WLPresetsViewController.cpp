@@ -42,6 +42,9 @@ WLPresetsViewController::WLPresetsViewController(PresetList::AlertForError ask, 
                                                          });
 }
 
+// The table goes before the model that it shows.
+WLPresetsViewController::~WLPresetsViewController() { delete _table; }
+
 QString WLPresetsViewController::title() const { return PrefsWord("Presets"); }
 QString WLPresetsViewController::windowTitle() const { return PrefsWord("Presets title"); }
 QString WLPresetsViewController::identifier() const { return QStringLiteral("Presets"); }

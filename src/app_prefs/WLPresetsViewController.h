@@ -13,6 +13,7 @@ class WLPresetsViewController final : public PrefsPane {
 
 public:
     explicit WLPresetsViewController(PresetList::AlertForError ask, QWidget* parent = nullptr);
+    ~WLPresetsViewController() override;
 
     [[nodiscard]] QString title() const override;
     [[nodiscard]] QString windowTitle() const override;
