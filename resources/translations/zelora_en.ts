@@ -1308,6 +1308,10 @@
         <source>AboutText</source>
         <translation>A viewer for DICOM images. It is not a medical device: do not base a diagnosis on it alone.</translation>
     </message>
+    <message>
+        <source>Program Crash Report</source>
+        <translation>Zelora Viewer %1 crash report</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -1674,6 +1678,85 @@
     <message>
         <source>No update service</source>
         <translation>This copy of the program doesn't look for updates by itself. New versions come the way this one came.</translation>
+    </message>
+</context>
+<context>
+    <name>FirstAid</name>
+    <message>
+        <source>First Aid</source>
+        <translation>First Aid</translation>
+    </message>
+    <message>
+        <source>CrashTitle</source>
+        <translation>Zelora Viewer did not end properly the last time.</translation>
+    </message>
+    <message>
+        <source>Reset all settings</source>
+        <translation>Reset all settings</translation>
+    </message>
+    <message>
+        <source>ResetExplain</source>
+        <translation>All settings go back to what a fresh installation has, and the program starts again. A copy of the settings is kept beside them.</translation>
+    </message>
+    <message>
+        <source>Collect crash reports</source>
+        <translation>Collect crash reports</translation>
+    </message>
+    <message>
+        <source>LogsExplain</source>
+        <translation>Reports of crashes are put together for you to read, and sent by your mail program only if you agree.</translation>
+    </message>
+    <message>
+        <source>UserText</source>
+        <translation>What did you do when it happened?</translation>
+    </message>
+    <message>
+        <source>Remove older reports afterwards</source>
+        <translation>Remove older reports afterwards</translation>
+    </message>
+    <message>
+        <source>ClearLogsTip</source>
+        <translation>Only the last report of each kind is kept</translation>
+    </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Check for Updates</translation>
+    </message>
+    <message>
+        <source>No update service</source>
+        <translation>No update service is set up</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Collect</source>
+        <translation>Collect</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>Review the Report</translation>
+    </message>
+    <message>
+        <source>ReviewExplain</source>
+        <translation>This is all that leaves this computer. What may point to a patient or to you is marked: strike it, or change the text.</translation>
+    </message>
+    <message>
+        <source>Strike all marked</source>
+        <translation>Strike All Marked</translation>
+    </message>
+    <message>
+        <source>Strike selected</source>
+        <translation>Strike Selected</translation>
+    </message>
+    <message>
+        <source>Next marked</source>
+        <translation>Next Marked</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Send</translation>
     </message>
 </context>
 </TS>

@@ -294,6 +294,12 @@ QvxStatus PreferenceStore::Synchronize()
     return fLayers->Write();
 }
 
+std::string PreferenceStore::FilePath() const
+{
+    const std::shared_lock lock(fLayers->fMutex);
+    return fLayers->fPath;
+}
+
 void PreferenceStore::UseFile(std::string path)
 {
     const std::unique_lock lock(fLayers->fMutex);

@@ -47,6 +47,7 @@ public:
     // next time.
     QvxStatus Synchronize();
 
+    [[nodiscard]] std::string FilePath() const;  // empty: in memory only
     // Drops all but the defaults, unwritten changes too, and goes on with another file.
     void UseFile(std::string path);
 

@@ -28,6 +28,11 @@ void InitializeAppDefaults();
 // A value for this run only, which no setter changes and nothing stores. `key` as in the file.
 void prefs_OverrideForRun(const char* key, bool value);
 void prefs_Synchronize();
+// The file behind the store (bytes); empty when values are kept in memory only.
+[[nodiscard]] std::string prefs_FilePath();
+// Everything stored goes, and nothing more is stored in this run. The file is kept as
+// "<path>.before-reset".
+void prefs_RemoveAll();
 
 // --- Constants -----------------------------------------------------------------------------------
 

@@ -9,6 +9,8 @@
 #include <QByteArray>
 #include <QString>
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <limits>
 
 namespace {
@@ -79,6 +81,16 @@ void InitializeAppDefaults()
         MigrateFrom(version);
     prefs_RepairMeasurementColors();
     prefs_Synchronize();
+}
+
+std::string prefs_FilePath() { return prefs_Store().FilePath(); }
+
+void prefs_RemoveAll()
+{
+    const std::string path = prefs_FilePath();
+    prefs_Store().UseFile({});
+    if (!path.empty() && std::rename(path.c_str(), (path + ".before-reset").c_str()) != 0)
+        LogLine("preferences can't be set aside: " + std::string(StatusText(errno)));
 }
 
 void prefs_OverrideForRun(const char* key, bool value) { prefs_Store().Override(key, value); }

@@ -66,8 +66,8 @@ double Clock_GHz()
 
 QString U_SystemVersionString()
 {
-    return QStringLiteral("%1 (%2 %3)").arg(QSysInfo::prettyProductName(), QSysInfo::kernelType(),
-                                            QSysInfo::kernelVersion());
+    return QStringLiteral("%1 (%2 %3)")
+        .arg(QSysInfo::prettyProductName(), QSysInfo::kernelType(), QSysInfo::kernelVersion());
 }
 
 QString UKMachineName()
@@ -93,10 +93,7 @@ ReportParts PartsOfThisMachine(const QString& application)
         if (volume.isValid() && volume.isReady() && volume.device().startsWith('/'))
             parts.volumes.push_back(QUrl::fromLocalFile(volume.rootPath()).toString());
     }
-    const std::string file = UserConfigFolderPath() + "/preferences.plist";
-    QVariant stored;
-    if (ReadPropertyListFile(file, &stored) == kQvxOK)
-        parts.preferences = stored.toMap();
+    parts.preferences = ReadPropertyListFile(prefs_FilePath()).fRoot.toMap();
     return parts;
 }
 
@@ -141,11 +138,12 @@ std::vector<TextRange> RevealingRanges(const QString& text, const ReportParts& p
                 found.push_back({static_cast<int>(at), static_cast<int>(each.size())});
         }
     }
-    static const QRegularExpression kPath(QStringLiteral("(file://)?/[^\\s<>\"'():]+/?[^\\s<>\"'():]*"));
+    static const QRegularExpression kPath(
+        QStringLiteral("(file://)?/[^\\s<>\"'():]+/?[^\\s<>\"'():]*"));
     for (auto each = kPath.globalMatch(text); each.hasNext();) {
         const QRegularExpressionMatch match = each.next();
-        found.push_back({static_cast<int>(match.capturedStart()),
-                         static_cast<int>(match.capturedLength())});
+        found.push_back(
+            {static_cast<int>(match.capturedStart()), static_cast<int>(match.capturedLength())});
     }
     std::ranges::sort(found, {}, &TextRange::start);
     std::vector<TextRange> joined;

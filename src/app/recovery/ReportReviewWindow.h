@@ -1,0 +1,37 @@
+// Shows all of a report before it leaves: what may point to a patient is marked, and the user
+// strikes it, or anything else. Main thread only.
+#pragma once
+#include "app/recovery/ReportText.h"
+
+#include <QDialog>
+
+class QPlainTextEdit;
+class QPushButton;
+
+class ReportReviewWindow final : public QDialog {
+    Q_OBJECT
+
+public:
+    // `find` answers what of a text is to be marked.
+    ReportReviewWindow(const QString& text,
+                       std::function<std::vector<TextRange>(const QString&)> find,
+                       QWidget* parent = nullptr);
+
+    [[nodiscard]] QString text() const;
+    // The words that were struck by the buttons; they are to go from attachments too.
+    [[nodiscard]] const std::vector<QString>& struckWords() const { return _struck; }
+    void strikeAll();       // all that is marked
+    void strikeSelected();  // what is selected, or the marked part at the cursor
+    [[nodiscard]] int marks() const { return static_cast<int>(_marked.size()); }
+
+private:
+    void mark();
+    void strike(const std::vector<QString>& words);
+    void goToNextMark();
+
+    std::function<std::vector<TextRange>(const QString&)> _find;
+    std::vector<TextRange> _marked;
+    std::vector<QString> _struck;
+    QPlainTextEdit* _edit;
+    QPushButton *_strikeAll, *_strike, *_next;
+};
