@@ -54,7 +54,7 @@ struct Pauses {
 
 Pauses OpenOnce(const std::string& folder)
 {
-    ZELAppDelegate program{QString()};
+    ZELAppDelegate program(QString(), {});
     Pulse pulse;
     Pauses longest;
     QTimer watch;

@@ -4,7 +4,11 @@
 //
 // With ZELORA_SNAPSHOT=FILE.png in the environment it saves a picture of the first window there and
 // ends; with QT_QPA_PLATFORM=offscreen too it does so without a display.
+#include "app/recovery/CrashHandler.h"
 #include "app/shell/ZELAppDelegate.h"
+#include "platform/Folders.h"
+#include "platform/HandOver.h"
+#include "platform/RunningCopies.h"
 #include "prefs/Prefs.h"
 #include "util/Log.h"
 
@@ -12,6 +16,7 @@
 #include <QFile>
 #include <QIcon>
 #include <algorithm>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -31,6 +36,18 @@ std::optional<QString> SnapshotPath()
     return QFile::decodeName(qgetenv("ZELORA_SNAPSHOT"));
 }
 
+// Paths that mean the same in the process that takes them.
+std::vector<std::string> Absolute(const std::vector<std::string>& paths)
+{
+    std::vector<std::string> absolute;
+    for (const std::string& path : paths) {
+        std::error_code failed;
+        const std::filesystem::path full = std::filesystem::absolute(path, failed);
+        absolute.push_back(failed || path.empty() ? path : full.native());
+    }
+    return absolute;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -46,11 +63,22 @@ int main(int argc, char** argv)
         return 1;
     }
     prefs_InitializeForApplication();
+    const std::string place = PlaceOfProgram(), meeting = snapshot ? "" : MeetingFolder();
+    const std::unique_ptr<HandOver> handOver = HandOverOrStart(meeting, place, Absolute(paths));
+    if (!handOver)
+        return 0;  // the copy that runs has taken them
+    const RunningCopies copies(meeting, place);
+    const std::string dataFolder = UserDataFolder();
+    if (!snapshot)
+        InstallCrashHandler(dataFolder + "/CrashReports", "zelora-viewer");
     int programName = 1;  // the rest is paths, in which Qt would look for options of its own
     QApplication application(programName, argv);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Zelora Viewer"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.zelora.Viewer"));
-    ZELAppDelegate viewer(snapshot);
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZELORA_VERSION));
+    ZELAppDelegate viewer(snapshot, {dataFolder, place, [&copies] { return copies.places(); }});
+    handOver->setReceived(
+        [&viewer](std::vector<std::string> more) { viewer.takeOver(std::move(more)); });
     viewer.start(std::move(paths));
     return QApplication::exec();
 }

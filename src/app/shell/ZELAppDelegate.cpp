@@ -12,6 +12,7 @@
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "dicom_core/store/TempFolder.h"
 #include "platform/AlertWords.h"
+#include "platform/Folders.h"
 #include "platform/VolumeWatcher.h"
 #include "prefs/ColorTableFiles.h"
 #include "prefs/Prefs.h"
@@ -28,6 +29,7 @@
 
 namespace {
 
+constexpr const char* kProgramName = "zelora-viewer";
 constexpr rlim_t kOpenFiles = 10240;
 
 // As many descriptors as long folders need; the hard limit stays.
@@ -42,6 +44,12 @@ void RaiseFileLimit()
     if (!known || setrlimit(RLIMIT_NOFILE, &limit) != 0)
         LogLine("setrlimit error: " + std::to_string(errno) + " cur: " +
                 std::to_string(limit.rlim_cur) + " max: " + std::to_string(limit.rlim_max));
+}
+
+bool HoldsKeysOfFirstAid()
+{
+    constexpr Qt::KeyboardModifiers kKeys = Qt::AltModifier | Qt::ControlModifier;
+    return (QGuiApplication::queryKeyboardModifiers() & kKeys) == kKeys;
 }
 
 void SayProblem(const std::string& text) { LogLine("zelora-viewer: " + text); }
@@ -60,7 +68,8 @@ std::string FullPath(const std::string& path)
 
 }  // namespace
 
-ZELAppDelegate::ZELAppDelegate(std::optional<QString> snapshotPath)
+ZELAppDelegate::ZELAppDelegate(std::optional<QString> snapshotPath,
+                               ProgramSurroundings surroundings)
     : _snapshotPath(std::move(snapshotPath)),
       _progressWindow([this] { _controller.cancelOpen(); }),
       _controller(this, this, &_progressWindow, isAttended() ? &_recents : nullptr),
@@ -70,6 +79,14 @@ ZELAppDelegate::ZELAppDelegate(std::optional<QString> snapshotPath)
                     },
                     nullptr})
 {
+    CrashRecovery::Setup recovery;
+    recovery.programName = kProgramName;
+    recovery.dataFolder = std::move(surroundings.dataFolder);
+    recovery.temporaryFolder = TemporaryFolder();
+    recovery.place = std::move(surroundings.place);
+    recovery.running = std::move(surroundings.running);
+    recovery.terminate = [this] { quit(); };
+    _recovery = std::make_unique<CrashRecovery>(std::move(recovery));
     // Between two opens no window may stand, and an alert is no window to stay for.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
@@ -82,14 +99,30 @@ void ZELAppDelegate::start(std::vector<std::string> paths)
 {
     applicationWillFinishLaunching();
     applicationDidFinishLaunching();
-    openPaths(std::move(paths));
-    if (isAttended())
+    if (!isAttended())
+        return openPaths(std::move(paths));
+    _pathsAtStart = std::move(paths);
+    const bool crashed = _recovery->locks().U_CrashSemaphoreExists();
+    if (crashed)
+        CrashRecovery::U_UpdateCrashCounter();
+    if (crashed || HoldsKeysOfFirstAid())
+        enqueue([this, crashed] { doSpecialApplicationStartup(crashed); });
+    else
+        finishNormalApplicationStartup();
+}
+
+// Before any window.
+void ZELAppDelegate::doSpecialApplicationStartup(bool didCrash)
+{
+    if (_recovery->doSpecialApplicationStartup(didCrash, nullptr))
         finishNormalApplicationStartup();
 }
 
 void ZELAppDelegate::applicationWillFinishLaunching()
 {
     RaiseFileLimit();
+    if (isAttended())
+        _signals = std::make_unique<QuitSignals>([this] { quit(); });
     CImporterPlusFactory::InitFactory();
 }
 
@@ -106,9 +139,11 @@ void ZELAppDelegate::applicationDidFinishLaunching()
 
 void ZELAppDelegate::finishNormalApplicationStartup()
 {
-    prefs_Set_NumberOfRuns_Current(prefs_NumberOfRuns_Current() + 1);
-    prefs_Synchronize();
-    _signals = std::make_unique<QuitSignals>([this] { quit(); });
+    _recovery->locks().U_ClearCrashSemaphore(true, false);
+    _recovery->locks().U_WriteCrashSemaphore();
+    _hasStarted = true;
+    CrashRecovery::U_UpdateRunCounter();
+    openPaths(std::exchange(_pathsAtStart, {}));
     enqueue([this] { openDiscs(); });
 }
 
@@ -149,6 +184,9 @@ void ZELAppDelegate::applicationWillTerminate()
     _windows.clear();
     _baseBuffer.reset();
     RemoveProgramTempFolder();
+    if (std::exchange(_hasStarted, false))
+        _recovery->locks().U_ClearCrashSemaphore(true, false);
+    CImporterPlusFactory::DeinitFactory();
 }
 
 void ZELAppDelegate::diskMounted(const std::string& mountPoint)
@@ -375,7 +413,11 @@ void ZELAppDelegate::offerPreset(float width, float level)
     _preferences.offerPreset(width, level, QApplication::activeWindow());
 }
 
-void ZELAppDelegate::showFirstAidWindow() {}
+void ZELAppDelegate::showFirstAidWindow()
+{
+    _recovery->doSpecialApplicationStartup(false, QApplication::activeWindow());
+}
+
 void ZELAppDelegate::showHelp() { ShowHelp(QApplication::activeWindow()); }
 void ZELAppDelegate::showAcknowledgments() { ShowAcknowledgments(QApplication::activeWindow()); }
 void ZELAppDelegate::showAbout() { ShowAbout(QApplication::activeWindow()); }

@@ -1,6 +1,7 @@
 // The program's life from start to end: what is loaded and in which order, its windows, its alerts,
 // and one request to open after the other. Main thread only.
 #pragma once
+#include "app/recovery/CrashRecovery.h"
 #include "app/shell/OpenProgressWindow.h"
 #include "app/window/AppCommands.h"
 #include "app_prefs/ZELPrefsController.h"
@@ -20,6 +21,13 @@ class StartWindow;
 class VolumeWatcher;
 struct ZELAlertWords;
 
+// Where the program stands on its machine; paths are bytes.
+struct ProgramSurroundings {
+    std::string dataFolder;                             // the user's, of this program
+    std::string place;                                  // which copy of the program this is
+    std::function<std::vector<std::string>()> running;  // places of all that run, this one included
+};
+
 class ZELAppDelegate final : public QObject,
                              private OpenObserver,
                              private OpenHost,
@@ -28,7 +36,7 @@ public:
     // With a `snapshotPath` nobody is there: no dialogs, no recent documents, no discs. A picture
     // of the first window goes there (nowhere for an empty path) and the program ends: with code 0,
     // or 1 if that fails.
-    explicit ZELAppDelegate(std::optional<QString> snapshotPath);
+    ZELAppDelegate(std::optional<QString> snapshotPath, ProgramSurroundings surroundings);
     ~ZELAppDelegate() override;
 
     // Sets the program up, then, from the event loop, opens `paths` (bytes), or discs and what the
@@ -71,6 +79,7 @@ private:
 
     void applicationWillFinishLaunching();
     void applicationDidFinishLaunching();
+    void doSpecialApplicationStartup(bool didCrash);
     void finishNormalApplicationStartup();
     void applicationShouldTerminate();
     void applicationWillTerminate();
@@ -95,6 +104,8 @@ private:
     ZELOpenController _controller;
     std::vector<std::unique_ptr<ZELMainWindowController>> _windows;
     ZELPrefsController _preferences;
+    std::unique_ptr<CrashRecovery> _recovery;
+    std::vector<std::string> _pathsAtStart;
     std::unique_ptr<StartWindow> _startWindow;  // made when it is first needed
     std::unique_ptr<QuitSignals> _signals;
     std::unique_ptr<VolumeWatcher> _volumes;
@@ -102,4 +113,5 @@ private:
     int _laterCalls = 0;    // that have not come to be requests yet
     bool _jobRuns = false;
     bool _hasFailed = false, _hasOpened = false, _quits = false;
+    bool _hasStarted = false;  // normally, with a lock of this run
 };

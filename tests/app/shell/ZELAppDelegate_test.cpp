@@ -4,7 +4,9 @@
 #include "app/shell/OpenPanel.h"
 #include "app/shell/StartWindow.h"
 #include "app/window/ZELMainWindowController.h"
+#include "browser/ZELPatientOutlineView.h"
 #include "dicom_core/opening/OpeningFixtures.h"
+#include "dicom_core/opening/ZELDcmTree.h"
 #include "fixtures/TempFolder.h"
 #include "platform/PreferenceStore.h"
 #include "prefs/Prefs.h"
@@ -15,8 +17,8 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QTest>
 #include <QTimer>
-#include <QTreeView>
 #include <QUrl>
 #include <csignal>
 #include <filesystem>
@@ -49,7 +51,10 @@ protected:
     // program's code.
     int Run(std::vector<std::string> paths, std::vector<std::function<bool()>> steps)
     {
-        ZELAppDelegate application(std::nullopt);
+        const std::string place = folder.WriteFile("program", "");
+        ZELAppDelegate application(std::nullopt, {folder.Path("data"), place, [place] {
+                                                      return std::vector<std::string>{place};
+                                                  }});
         delegate = &application;
         QTimer stepping;
         std::size_t next = 0;
@@ -198,10 +203,14 @@ TEST_F(ViewerSession, a_drop_opens_another_window_and_a_row_shows_its_sequence)
     };
     const auto choose = [] {
         for (ZELMainWindowController* window : Showing<ZELMainWindowController>()) {
-            auto* list = window->findChild<QTreeView*>();
-            if (list->model()->rowCount() != 5)
+            if (window->imagesDB().numberOfSequences() < 2)
                 continue;
-            emit list->activated(list->model()->index(4, 0));
+            // By the keyboard, on its row.
+            auto* outline = window->findChild<ZELPatientOutlineView*>();
+            PatTreeDataSource* source = outline->dataSource();
+            outline->setCurrentIndex(
+                source->indexOf(source->nodeFor(window->imagesDB().lastSequence_DICOM())));
+            QTest::keyClick(outline, Qt::Key_Return);
             QString labels;
             for (const QLabel* label : window->findChildren<QLabel*>())
                 labels += label->text() + QLatin1Char('|');
