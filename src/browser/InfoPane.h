@@ -46,7 +46,8 @@ private:
 
     QSplitter* _split;
     InfoTableSource* _source;
-    QToolButton* _collapseButton = nullptr;  // children, these two
+    QWidget* _titleBox = nullptr;  // children, these three
+    QToolButton* _collapseButton = nullptr;
     QTableView* _theInfoView = nullptr;
     QVariantAnimation _folding;
 };

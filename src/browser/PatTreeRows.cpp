@@ -126,13 +126,14 @@ RowLook PatTreeDataSource::willDisplayCell(const QModelIndex& index, int rowHeig
     return look;
 }
 
-// A row that the list shows only in part, in full; reads no file.
+// In full what the list may show only in part.
 QString PatTreeDataSource::toolTipOf(const QModelIndex& index) const
 {
     DicomElemChildNode* node = nodeAt(index);
     if (!node)
         return {};
-    const QString more = node->sequence() ? node->dimensionStringFast(true) : QString();
+    const QString more =
+        node->sequence() ? node->dimensionStringFast(_host->fastPatientListStartON()) : QString();
     return more.isEmpty() ? node->description() : node->description() + QLatin1Char('\n') + more;
 }
 
