@@ -32,6 +32,7 @@ public:
     void toggleInfoPane();
     [[nodiscard]] bool viewIsClosed() const;
     [[nodiscard]] int totalTableHeight() const { return _source->totalTableHeight(); }
+    [[nodiscard]] QSize sizeHint() const override { return {220, 240}; }
     void updateView();  // the button, after the pane got another height
 
 protected:

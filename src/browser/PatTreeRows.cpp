@@ -4,6 +4,7 @@
 #include "browser/BrowserNotifications.h"
 #include "browser/PatTreeDataSource.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
+#include "util/Log.h"
 
 #include <algorithm>
 
@@ -136,15 +137,23 @@ RowLook PatTreeDataSource::willDisplayCell(const QModelIndex& index, int rowHeig
     return look;
 }
 
-// In full what the list may show only in part.
+// In full what the list may show only in part, and the series of a sequence that stands for one.
 QString PatTreeDataSource::toolTipOf(const QModelIndex& index) const
 {
     DicomElemChildNode* node = nodeAt(index);
     if (!node)
         return {};
-    const QString more =
-        node->sequence() ? node->dimensionStringFast(_host->fastPatientListStartON()) : QString();
-    return more.isEmpty() ? node->description() : node->description() + QLatin1Char('\n') + more;
+    QStringList lines{node->description()};
+    if (dk_SequenceBase* sequence = node->sequence()) {
+        constexpr std::int32_t kSeriesLevel = 2;
+        dk_DicomBaseElem* series = sequence->GetParent();
+        if (series && series->GetDicomTreeLevel() == kSeriesLevel && !nodeFor(series))
+            lines.append(QString::fromStdString(
+                EscapedText(series->CopyDKTitle().simplified().toStdString())));
+        lines.append(node->dimensionStringFast(_host->fastPatientListStartON()));
+    }
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
 }
 
 // ---- what becomes ready -------------------------------------------------------------------------

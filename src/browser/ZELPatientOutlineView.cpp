@@ -5,7 +5,7 @@
 #include "app/views/MenuFromEntries.h"
 #include "browser/BrowserNotifications.h"
 #include "browser/RowDelegate.h"
-#include "dicom_core/tree/dk_SequenceBase.h"
+#include "dicom_core/opening/ZELDcmTree.h"
 #include "platform/Words.h"
 
 #include <QContextMenuEvent>
@@ -223,6 +223,13 @@ void ZELPatientOutlineView::keyPressEvent(QKeyEvent* event)
         activate(currentIndex());
     else
         QTreeView::keyPressEvent(event);
+}
+
+// A search asks for all titles, which a disc would have to read.
+void ZELPatientOutlineView::keyboardSearch(const QString& text)
+{
+    if (_source->tree() && !_source->tree()->isOnSlowMedia())
+        QTreeView::keyboardSearch(text);
 }
 
 // The row that was pressed comes first: it is the one that is carried.

@@ -225,3 +225,19 @@ TEST(PatTreeDataSource, drops_the_thumbnails_displayed_longest_ago)
     LetEventsRun();
     EXPECT_EQ(browser.Missing(), 0) << "made again for rows that are displayed again";
 }
+
+TEST(PatTreeDataSource, a_tool_tip_says_the_series_that_has_no_row_of_its_own_as_plain_text)
+{
+    Browser browser;
+    static_cast<dk_Series*>(browser.made.sequences[0]->GetParent())->fWideSeriesDescription =
+        QStringLiteral("<b>Thorax</b>\nlung");
+    static_cast<dk_Series*>(browser.made.sequences[1]->GetParent())->fWideSeriesDescription =
+        QStringLiteral("Heart");
+    const QString tip = browser.Row(0).data(Qt::ToolTipRole).toString();
+    EXPECT_TRUE(tip.contains(QStringLiteral("&lt;b&gt;Thorax&lt;/b&gt; lung")))
+        << tip.toStdString();
+    EXPECT_TRUE(tip.contains(QStringLiteral("3 frames, 64 x 48 pixels"))) << tip.toStdString();
+    EXPECT_FALSE(browser.Row(1).data(Qt::ToolTipRole).toString().contains(QStringLiteral("Heart")));
+    EXPECT_FALSE(
+        browser.Row(0).data(Qt::AccessibleTextRole).toString().contains(QLatin1Char('\n')));
+}
