@@ -6,7 +6,7 @@
 inline constexpr std::string_view kNotePatientSelectionDidChange = "PatientView_SelectionDidChange";
 inline constexpr std::string_view kNoteCellImageCalcFinished = "PatientView_CellImageCalcFinished";
 
-// With kKeyNewDkSequence and kKeyNewSequence of app/grid/GridNotifications.h.
+// With kKeyNewDkSequence and kKeyNewSequence (a shared pointer) of app/grid/GridNotifications.h.
 inline constexpr const char* kKeyMultiSeqsSelected = "MultiSeqsSelected";
 
 inline constexpr const char* kKeyCellNode = "CellNode";

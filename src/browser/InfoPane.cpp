@@ -17,11 +17,9 @@
 
 namespace {
 
-constexpr int kTextPixels = 11;  // logical, small
-
 QFont SmallFont(QFont font)
 {
-    font.setPixelSize(kTextPixels);
+    font.setPixelSize(kInfoTextPixels);
     return font;
 }
 
@@ -40,11 +38,8 @@ int U_InfoDividerPosition(bool isClosed, int splitHeight, int tableHeight, int d
 InfoPane::InfoPane(const void* windowKey, QSplitter* split)
     : _split(split), _source(new InfoTableSource(windowKey, this))
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(newTitleBox());
-    layout->addWidget(_theInfoView = newTable(), 1);
+    _titleBox = newTitleBox();
+    _theInfoView = newTable();
     setMinimumHeight(kInfoTitleHeight);
     split->addWidget(this);
     split->setCollapsible(split->indexOf(this), false);
@@ -60,7 +55,6 @@ InfoPane::~InfoPane() = default;
 QWidget* InfoPane::newTitleBox()
 {
     auto* box = new TitleBox(this);
-    box->setFixedHeight(kInfoTitleHeight);
     auto* row = new QHBoxLayout(box);
     row->setContentsMargins(8, 0, 4, 0);
     auto* title = new QLabel(ZelWord(kWordsMain, "Info Pane"), box);
@@ -87,7 +81,6 @@ QTableView* InfoPane::newTable()
     table->setTabKeyNavigation(false);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setMinimumHeight(0);
     table->horizontalHeader()->hide();
     table->horizontalHeader()->setStretchLastSection(true);
     table->verticalHeader()->hide();
@@ -163,5 +156,8 @@ void InfoPane::updateView()
 void InfoPane::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    _titleBox->setGeometry(0, 0, width(), kInfoTitleHeight);
+    _theInfoView->setGeometry(0, kInfoTitleHeight, width(), height() - kInfoTitleHeight);
+    _theInfoView->setVisible(height() > kInfoTitleHeight);
     updateView();
 }

@@ -32,6 +32,7 @@ public:
     void toggleInfoPane();
     [[nodiscard]] bool viewIsClosed() const;
     [[nodiscard]] int totalTableHeight() const { return _source->totalTableHeight(); }
+    [[nodiscard]] QSize sizeHint() const override { return {220, 240}; }
     void updateView();  // the button, after the pane got another height
 
 protected:
@@ -46,7 +47,8 @@ private:
 
     QSplitter* _split;
     InfoTableSource* _source;
-    QToolButton* _collapseButton = nullptr;  // children, these two
+    QWidget* _titleBox = nullptr;  // children, these three
+    QToolButton* _collapseButton = nullptr;
     QTableView* _theInfoView = nullptr;
     QVariantAnimation _folding;
 };

@@ -7,6 +7,8 @@
 #include "dicom_core/tree/dk_SequenceBase.h"
 #include "dicom_core/values/ElementText.h"
 
+#include <QFont>
+
 namespace {
 
 template <typename T>
@@ -28,6 +30,14 @@ InfoFields FieldsOf(dk_SequenceBase* sequence)
             .value_or(QString())
             .simplified();
     });
+}
+
+QFont HeadingFont()
+{
+    QFont font;
+    font.setPixelSize(kInfoTextPixels);
+    font.setBold(true);
+    return font;
 }
 
 }  // namespace
@@ -115,6 +125,8 @@ int InfoTableSource::columnCount(const QModelIndex& parent) const
 QVariant InfoTableSource::data(const QModelIndex& index, int role) const
 {
     const CategoryInfoField* entry = fieldAt(index.row());
+    if (role == Qt::FontRole && isHeading(index.row()))
+        return HeadingFont();
     const bool text = role == Qt::DisplayRole || role == Qt::AccessibleTextRole;
     if (!entry || (!text && role != Qt::ToolTipRole))
         return {};

@@ -9,6 +9,7 @@
 class dk_SequenceBase;
 
 inline constexpr int kInfoHeadingHeight = 19, kInfoRowHeight = 17;  // points
+inline constexpr int kInfoTextPixels = 11;                          // logical
 
 class InfoTableSource final : public QAbstractTableModel {
     Q_OBJECT

@@ -53,6 +53,8 @@ void PatTreeDataSource::setupWithDicomTree(ZELDcmTree* tree)
     _notedRows.clear();
     _nodes.clear();
     _leafRows.clear();
+    _shown.clear();
+    _thumbnailBytes = 0;
     fTargetDicomNode = nullptr;
     _rootDicomNode = U_NodesOfTree(tree ? tree->patientTreeRoot() : nullptr);
     _leaves = _rootDicomNode->sequenceNodes();
@@ -164,6 +166,8 @@ void PatTreeDataSource::reloadAllIcons()
     _work.removeAllPendingIconWorkers();
     for (DicomElemChildNode* node : _leaves)
         node->clearNooodeImage();
+    _shown.clear();
+    _thumbnailBytes = 0;
     restartIconCalculator(_work.pending() + static_cast<int>(_leaves.size()));
     _notedHeights = true;
     _noteTimer.start(0);

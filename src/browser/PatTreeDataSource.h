@@ -23,6 +23,8 @@ class ZELDcmTree;
 
 inline constexpr int kIconTick_ms = 300, kIconTickWork_ms = 12;
 inline constexpr int kColorsReload_ms = 500;
+inline constexpr std::size_t kThumbnailsLimit = std::size_t{256} << 20;  // bytes
+inline constexpr int kLeastThumbnails = 256;  // more than can be seen at a time
 
 class PatTreeDataSource final : public QAbstractItemModel, public SequenceProxies {
     Q_OBJECT
@@ -41,11 +43,13 @@ public:
     [[nodiscard]] DicomElemChildNode* nodeFor(const dk_DicomBaseElem* element) const;  // or null
     [[nodiscard]] DicomElemChildNode* nodeForZELSequence(const ZELSequenceProxy* proxy) const;
     [[nodiscard]] static DicomElemChildNode* nodeAt(const QModelIndex& index);  // or null
+    [[nodiscard]] int leafRowOf(const DicomElemChildNode* node) const;  // in tree order; or -1
     [[nodiscard]] QModelIndex indexOf(const DicomElemChildNode* node) const;
     // The sequence of the active grid; null for none.
     void setTargetNode(DicomElemChildNode* node);
     [[nodiscard]] DicomElemChildNode* targetNode() const { return fTargetDicomNode; }
     void updateGridIDs();                                   // asks the host
+    void reloadData() { emit needsDisplay(); }              // rows that show are asked for anew
     void updateNodeForSequence(dk_SequenceBase* sequence);  // its row is painted anew
 
     // ---- modes ----
@@ -68,6 +72,9 @@ public:
     void pauseIconCalculator();
     void restartIconCalculator(int expected);  // 0: what is pending
     void handleImageCalc(DicomElemChildNode* node, const QImage& image, float height);
+    // Beyond `bytes` the thumbnails go that were displayed longest ago, to be made again when their
+    // rows are; but at least `least` stay.
+    void setThumbnailsLimit(std::size_t bytes, int least);
     [[nodiscard]] const IconWorkQueue& iconWork() const { return _work; }
     [[nodiscard]] bool isTicking() const { return _iconCalculator.isActive(); }
 
@@ -104,6 +111,7 @@ private:
     void tellNoted();
     void tellOfRow(const DicomElemChildNode* node);
     [[nodiscard]] IconWorkQueue::Surroundings surroundings() const;
+    void keepThumbnailsBounded();
     [[nodiscard]] bool showsSequence(const QModelIndex& index) const;
 
     BrowserHost* _host;
@@ -112,6 +120,10 @@ private:
     std::vector<DicomElemChildNode*> _leaves;  // sequences in tree order
     std::unordered_map<const dk_DicomBaseElem*, DicomElemChildNode*> _nodes;
     std::unordered_map<const DicomElemChildNode*, int> _leafRows;
+    std::unordered_map<DicomElemChildNode*, std::int64_t> _shown;  // thumbnails, and when displayed
+    std::int64_t _displays = 0;
+    std::size_t _thumbnailBytes = 0, _thumbnailsLimit = kThumbnailsLimit;
+    int _leastThumbnails = kLeastThumbnails;
     DicomElemChildNode* fTargetDicomNode = nullptr;
     int _iconSize;
     IconWorkQueue _work;

@@ -4,10 +4,19 @@
 #include "browser/BrowserNotifications.h"
 #include "browser/PatTreeDataSource.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
+#include "util/Log.h"
+
+#include <algorithm>
 
 DicomElemChildNode* PatTreeDataSource::nodeAt(const QModelIndex& index)
 {
     return index.isValid() ? static_cast<DicomElemChildNode*>(index.internalPointer()) : nullptr;
+}
+
+int PatTreeDataSource::leafRowOf(const DicomElemChildNode* node) const
+{
+    const auto leaf = _leafRows.find(node);
+    return leaf == _leafRows.end() ? -1 : leaf->second;
 }
 
 QModelIndex PatTreeDataSource::indexOf(const DicomElemChildNode* node) const
@@ -15,12 +24,10 @@ QModelIndex PatTreeDataSource::indexOf(const DicomElemChildNode* node) const
     if (!node || node == _rootDicomNode.get())
         return {};
     int row = node->childIndexInParent();
-    if (iconOnly()) {
-        const auto leaf = _leafRows.find(node);
-        if (leaf == _leafRows.end())
-            return {};
-        row = leaf->second;
-    }
+    if (iconOnly())
+        row = leafRowOf(node);
+    if (row < 0)
+        return {};
     return createIndex(row, 0, const_cast<DicomElemChildNode*>(node));
 }
 
@@ -75,6 +82,8 @@ Qt::ItemFlags PatTreeDataSource::flags(const QModelIndex& index) const
 {
     constexpr Qt::ItemFlags kSequence =
         Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    if (!index.isValid())
+        return Qt::NoItemFlags;
     return showsSequence(index) ? kSequence : Qt::ItemFlags(Qt::ItemIsEnabled);
 }
 
@@ -109,6 +118,8 @@ RowLook PatTreeDataSource::willDisplayCell(const QModelIndex& index, int rowHeig
     if (!textOnly() && rowHeight > kIconAbove) {
         _work.checkItemIconAndMoveToTop(node);
         look.icon = node->repIcon();
+        if (const auto shown = _shown.find(node); shown != _shown.end())
+            shown->second = ++_displays;
         look.iconHeight = node->iconHeight();
     }
     look.gridID = node->gridID();
@@ -126,14 +137,23 @@ RowLook PatTreeDataSource::willDisplayCell(const QModelIndex& index, int rowHeig
     return look;
 }
 
-// A row that the list shows only in part, in full; reads no file.
+// In full what the list may show only in part, and the series of a sequence that stands for one.
 QString PatTreeDataSource::toolTipOf(const QModelIndex& index) const
 {
     DicomElemChildNode* node = nodeAt(index);
     if (!node)
         return {};
-    const QString more = node->sequence() ? node->dimensionStringFast(true) : QString();
-    return more.isEmpty() ? node->description() : node->description() + QLatin1Char('\n') + more;
+    QStringList lines{node->description()};
+    if (dk_SequenceBase* sequence = node->sequence()) {
+        constexpr std::int32_t kSeriesLevel = 2;
+        dk_DicomBaseElem* series = sequence->GetParent();
+        if (series && series->GetDicomTreeLevel() == kSeriesLevel && !nodeFor(series))
+            lines.append(QString::fromStdString(
+                EscapedText(series->CopyDKTitle().simplified().toStdString())));
+        lines.append(node->dimensionStringFast(_host->fastPatientListStartON()));
+    }
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
 }
 
 // ---- what becomes ready -------------------------------------------------------------------------
@@ -145,6 +165,8 @@ void PatTreeDataSource::createPreviewIconFor(DicomElemChildNode* node)
         image = QImage(1, 1, QImage::Format_RGB32);
         image.fill(Qt::white);
     }
+    if (image.allGray())  // a quarter of the bytes
+        image = image.convertToFormat(QImage::Format_Grayscale8);
     NotificationCenter::Default().Post(
         kNoteCellImageCalcFinished, this,
         {{QLatin1String(kKeyCellNode), QVariant::fromValue(static_cast<void*>(node))},
@@ -166,7 +188,12 @@ void PatTreeDataSource::handleImageCalc(DicomElemChildNode* node, const QImage& 
         return noteLater(node, false);
     }
     const float before = node->iconHeight();
-    node->setNooodeImage(image, height);
+    if (node->iconMissing()) {
+        node->setNooodeImage(image, height);
+        _shown[node] = ++_displays;
+        _thumbnailBytes += static_cast<std::size_t>(image.sizeInBytes());
+        keepThumbnailsBounded();
+    }
     noteLater(node, node->iconHeight() != before);
 }
 
@@ -192,4 +219,33 @@ void PatTreeDataSource::tellOfRow(const DicomElemChildNode* node)
     const QModelIndex index = indexOf(node);
     if (index.isValid())
         emit dataChanged(index, index);
+}
+
+// ---- what is kept -------------------------------------------------------------------------------
+
+void PatTreeDataSource::setThumbnailsLimit(std::size_t bytes, int least)
+{
+    _thumbnailsLimit = bytes;
+    _leastThumbnails = least;
+    keepThumbnailsBounded();
+}
+
+// Drops down to three quarters, so that it is seldom done.
+void PatTreeDataSource::keepThumbnailsBounded()
+{
+    if (_thumbnailBytes <= _thumbnailsLimit)
+        return;
+    std::vector<std::pair<std::int64_t, DicomElemChildNode*>> oldest;
+    for (const auto& [node, display] : _shown)
+        oldest.emplace_back(display, node);
+    std::ranges::sort(oldest);
+    for (const auto& [display, node] : oldest) {
+        if (_thumbnailBytes <= _thumbnailsLimit / 4 * 3 ||
+            static_cast<int>(_shown.size()) <= _leastThumbnails)
+            break;
+        _thumbnailBytes -= static_cast<std::size_t>(node->repIcon().sizeInBytes());
+        node->clearNooodeImage();
+        _shown.erase(node);
+        _work.expectIcons(1);
+    }
 }

@@ -1,10 +1,11 @@
 #include "browser/ZELPatientOutlineView.h"
 
 #include "app/grid/GridNotifications.h"
+#include "app/grid/ZELSequenceGridViewModelController.h"
 #include "app/views/MenuFromEntries.h"
 #include "browser/BrowserNotifications.h"
 #include "browser/RowDelegate.h"
-#include "dicom_core/tree/dk_SequenceBase.h"
+#include "dicom_core/opening/ZELDcmTree.h"
 #include "platform/Words.h"
 
 #include <QContextMenuEvent>
@@ -64,13 +65,16 @@ void ZELPatientOutlineView::observeGrids()
     const auto isHere = [this](const Notification& note) {
         return note.userInfo.value(QLatin1String(kKeyWindow)).value<void*>() == _host->windowKey();
     };
-    _observations.push_back(
-        center.AddObserver(kNoteGridDidChange, [this, isHere](const Notification& note) {
-            if (!isHere(note))
-                return;
-            _source->updateGridIDs();
-            U_SelectRowFor_dkSequence(_host->activeSequence(), false);
-        }));
+    _observations.push_back(center.AddObserver(kNoteGridDidChange, [this, isHere](
+                                                                       const Notification& note) {
+        if (!isHere(note))
+            return;
+        // Whoever makes the grid the active one may hear of it after us.
+        const auto* grid = static_cast<const ZELSequenceGridViewModelController*>(
+            note.userInfo.value(QLatin1String(kKeyNewGridController)).value<void*>());
+        _source->updateGridIDs();
+        U_SelectRowFor_dkSequence(grid ? grid->curr_dkSequence() : _host->activeSequence(), false);
+    }));
     _observations.push_back(
         center.AddObserver(kNoteGridDidChangeSequence, [this, isHere](const Notification& note) {
             if (!isHere(note))
@@ -139,15 +143,12 @@ QItemSelectionModel::SelectionFlags ZELPatientOutlineView::selectionCommand(
 
 std::vector<DicomElemChildNode*> ZELPatientOutlineView::selectedNodes() const
 {
-    std::vector<std::pair<int, DicomElemChildNode*>> places;
+    std::vector<DicomElemChildNode*> nodes;
     if (selectionModel()) {
         for (const QModelIndex& index : selectionModel()->selectedIndexes())
-            places.emplace_back(visualRect(index).top(), PatTreeDataSource::nodeAt(index));
+            nodes.push_back(PatTreeDataSource::nodeAt(index));
     }
-    std::ranges::stable_sort(places, {}, [](const auto& place) { return place.first; });
-    std::vector<DicomElemChildNode*> nodes;
-    for (const auto& place : places)
-        nodes.push_back(place.second);
+    std::ranges::sort(nodes, {}, [this](const auto* node) { return _source->leafRowOf(node); });
     return nodes;
 }
 
@@ -169,11 +170,11 @@ void ZELPatientOutlineView::outlineViewSelectionDidChange()
     if (node && !sequence)
         return;
     const std::shared_ptr<ZELSequenceProxy> proxy = _source->proxyOf(sequence);
-    const auto pointer = [](void* p) { return QVariant::fromValue(p); };
-    NotificationCenter::Default().Post(kNotePatientSelectionDidChange, _host->windowKey(),
-                                       {{QLatin1String(kKeyNewDkSequence), pointer(sequence)},
-                                        {QLatin1String(kKeyMultiSeqsSelected), rows.size() > 1},
-                                        {QLatin1String(kKeyNewSequence), pointer(proxy.get())}});
+    NotificationCenter::Default().Post(
+        kNotePatientSelectionDidChange, _host->windowKey(),
+        {{QLatin1String(kKeyNewDkSequence), QVariant::fromValue(static_cast<void*>(sequence))},
+         {QLatin1String(kKeyMultiSeqsSelected), rows.size() > 1},
+         {QLatin1String(kKeyNewSequence), QVariant::fromValue(proxy)}});
 }
 
 void ZELPatientOutlineView::U_SelectRowFor_dkSequence(dk_SequenceBase* sequence, bool reveal)
@@ -222,6 +223,13 @@ void ZELPatientOutlineView::keyPressEvent(QKeyEvent* event)
         activate(currentIndex());
     else
         QTreeView::keyPressEvent(event);
+}
+
+// A search asks for all titles, which a disc would have to read.
+void ZELPatientOutlineView::keyboardSearch(const QString& text)
+{
+    if (_source->tree() && !_source->tree()->isOnSlowMedia())
+        QTreeView::keyboardSearch(text);
 }
 
 // The row that was pressed comes first: it is the one that is carried.

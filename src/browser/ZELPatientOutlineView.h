@@ -22,6 +22,7 @@ public:
     void setTargetNode(DicomElemChildNode* node, bool reveal);
     [[nodiscard]] std::vector<DicomElemChildNode*> selectedNodes() const;  // in tree order
 
+    void keyboardSearch(const QString& text) override;
     // The menu of a row; of none for an invalid index.
     [[nodiscard]] MenuEntry menuForRow(const QModelIndex& index);
     [[nodiscard]] int contextualRowClicked() const { return _contextualRowClicked; }

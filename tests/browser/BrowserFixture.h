@@ -15,7 +15,10 @@ struct FakeBrowserHost final : BrowserHost {
     bool windowHasSheetOpen() const override { return sheet; }
     bool fastPatientListStartON() const override { return fast; }
     bool inQTModalMode() const override { return modal; }
-    void doubleClickOnPatientListRow(dk_SequenceBase* sequence) override { opened.push_back(sequence); }
+    void doubleClickOnPatientListRow(dk_SequenceBase* sequence) override
+    {
+        opened.push_back(sequence);
+    }
     void revealFiles(const std::vector<std::string>& paths) override { revealed = paths; }
 
     dk_SequenceBase* active = nullptr;
@@ -27,7 +30,10 @@ struct FakeBrowserHost final : BrowserHost {
 // A study of a CT series, which is one row, of an ultrasound series, a folder of its two clips, and
 // of a file alone.
 struct ListedTree : MadeTree {
-    ListedTree() : MadeTree({{.frames = 3}, {.modality = "US", .frames = 1, .color = true}, {.modality = "MR", .frames = 2}})
+    ListedTree()
+        : MadeTree({{.frames = 3},
+                    {.modality = "US", .frames = 1, .color = true},
+                    {.modality = "MR", .frames = 2}})
     {
         dk_DicomBaseElem* series = sequences[1]->GetParent();
         sequences.insert(sequences.begin() + 2,

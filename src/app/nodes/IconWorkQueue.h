@@ -36,7 +36,8 @@ public:
 
     // Empties the queue; a thumbnail and a text are expected of each sequence.
     void start(int sequences);
-    void expectMore(int sequences) { fIconWorkDoneCounter += 2 * sequences; }
+    // Of icons that were there and have been dropped.
+    void expectIcons(int icons) { fIconWorkDoneCounter += icons; }
     // A job for the node's row, which is being displayed, at the front. A job that is there already
     // is marked visible. Nothing for a node that has its icon (its text, or no icon yet).
     void checkItemIconAndMoveToTop(DicomElemChildNode* node);
