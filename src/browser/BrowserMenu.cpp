@@ -1,6 +1,5 @@
 #include "browser/BrowserMenu.h"
 
-#include "app/grid/ZELSequenceProxy.h"
 #include "browser/PatTreeDataSource.h"
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "dicom_core/tree/dk_ImageFile.h"
@@ -11,15 +10,6 @@
 namespace {
 
 using Nodes = std::vector<DicomElemChildNode*>;
-
-// Whoever watches a proxy hears of it; a sequence without one only keeps its mark.
-void SetMarked(DicomElemChildNode* node, bool marked)
-{
-    if (node->hasSequenceProxy())
-        node->theSequenceProxy()->setUserMarked(marked);
-    else
-        node->sequence()->fMarked = marked;
-}
 
 MenuEntry Command(const BrowserMenuTarget& target, const char* title, bool enabled,
                   std::function<void()> action)
@@ -38,7 +28,7 @@ MenuEntry Command(const BrowserMenuTarget& target, const char* title, bool enabl
 }
 
 MenuEntry MarkCommand(const BrowserMenuTarget& target, const char* title, bool enabled,
-                      const Nodes& nodes, MarkChange change)
+                      const Nodes& nodes, SequenceMark change)
 {
     return Command(target, title, enabled,
                    [source = target.source, nodes, change] { U_MarkNodes(source, nodes, change); });
@@ -54,38 +44,37 @@ void AddSelectionMarks(const BrowserMenuTarget& target, std::vector<MenuEntry>* 
                    return node->userMarked() == marked;
                });
     };
-    const auto add = [&](const char* title, bool enabled, MarkChange change) {
+    const auto add = [&](const char* title, bool enabled, SequenceMark change) {
         entries->push_back(MarkCommand(target, title, enabled, target.selected, change));
     };
-    add("Mark Selected", any(false), MarkChange::Mark);
-    add("Unmark Selected", any(true), MarkChange::Unmark);
-    add("Toggle Marked in Selection", several, MarkChange::Toggle);
+    add("Mark Selected", any(false), SequenceMark::Set);
+    add("Unmark Selected", any(true), SequenceMark::Clear);
+    add("Toggle Marked in Selection", several, SequenceMark::Switch);
 }
 
 void AddAllMarks(const BrowserMenuTarget& target, std::vector<MenuEntry>* entries)
 {
     const ZELDcmTree* tree = target.source->tree();
     const Nodes& all = target.source->sequenceNodes();
-    const auto add = [&](const char* title, bool enabled, MarkChange change) {
+    const auto add = [&](const char* title, bool enabled, SequenceMark change) {
         entries->push_back(MarkCommand(target, title, tree && enabled, all, change));
     };
-    add("Mark All", tree && tree->hasUnmarkedSequences(), MarkChange::Mark);
-    add("Unmark All", tree && tree->hasMarkedSequences(), MarkChange::Unmark);
-    add("Toggle Marked", tree && tree->hasGoodSequences(), MarkChange::Toggle);
+    add("Mark All", tree && tree->hasUnmarkedSequences(), SequenceMark::Set);
+    add("Unmark All", tree && tree->hasMarkedSequences(), SequenceMark::Clear);
+    add("Toggle Marked", tree && tree->hasGoodSequences(), SequenceMark::Switch);
 }
 
 }  // namespace
 
-void U_MarkNodes(PatTreeDataSource* source, const Nodes& nodes, MarkChange change)
+void U_MarkNodes(PatTreeDataSource* source, const Nodes& nodes, SequenceMark change)
 {
-    for (DicomElemChildNode* node : nodes) {
-        const bool marked =
-            change == MarkChange::Toggle ? !node->userMarked() : change == MarkChange::Mark;
-        if (marked == node->userMarked() || !IsGood(node))
-            continue;
-        SetMarked(node, marked);
-        source->updateNodeForSequence(node->sequence());
+    std::vector<dk_SequenceBase*> sequences;
+    for (const DicomElemChildNode* node : nodes) {
+        if (node)
+            sequences.push_back(node->sequence());
     }
+    for (dk_SequenceBase* changed : MarkSequences(*source->tree(), sequences, change))
+        source->updateNodeForSequence(changed);
 }
 
 MenuEntry U_BrowserMenu(const BrowserMenuTarget& target)
@@ -108,7 +97,7 @@ MenuEntry U_BrowserMenu(const BrowserMenuTarget& target)
     const bool marked = target.clicked && target.clicked->userMarked();
     const Nodes clicked = target.clicked ? Nodes{target.clicked} : Nodes{};
     menu.children.push_back(MarkCommand(target, marked ? "Unmark Sequence" : "Mark Sequence",
-                                        IsGood(target.clicked), clicked, MarkChange::Toggle));
+                                        IsGood(target.clicked), clicked, SequenceMark::Switch));
     menu.children.emplace_back();
     AddSelectionMarks(target, &menu.children);
     menu.children.emplace_back();

@@ -1,5 +1,6 @@
 // The menu on the browser's rows, and what it does to sequences. Main thread only.
 #pragma once
+#include "app/grid/SequenceMarks.h"
 #include "app/tools/MenuEntry.h"
 
 #include <string>
@@ -21,10 +22,9 @@ struct BrowserMenuTarget {
 
 [[nodiscard]] MenuEntry U_BrowserMenu(const BrowserMenuTarget& target);
 
-enum class MarkChange { Mark, Unmark, Toggle };
 // Of those that are good; the rows that changed are painted anew.
 void U_MarkNodes(PatTreeDataSource* source, const std::vector<DicomElemChildNode*>& nodes,
-                 MarkChange change);
+                 SequenceMark change);
 
 // The file of the sequence's current image, where it came from; empty if there is none.
 [[nodiscard]] std::string U_RevealPathOf(dk_SequenceBase* sequence);

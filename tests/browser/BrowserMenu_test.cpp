@@ -97,7 +97,7 @@ TEST(BrowserMenu, marks_only_good_sequences_and_tells_watchers)
                                told += phase == KeyPhase::DidChange;
                            });
     const QSignalSpy rows(&shown.source, &QAbstractItemModel::dataChanged);
-    U_MarkNodes(&shown.source, shown.source.sequenceNodes(), MarkChange::Mark);
+    U_MarkNodes(&shown.source, shown.source.sequenceNodes(), SequenceMark::Set);
     EXPECT_EQ(shown.Marked(), "0123");
     EXPECT_FALSE(empty->fMarked);
     EXPECT_EQ(told, 1);

@@ -18,12 +18,10 @@ constexpr int kFirstInfoHeight = 220;  // view points
 
 PatientPane::PatientPane(BrowserHost* host, ZELDcmTree* tree, QWidget* parent)
     : QWidget(parent),
-      _tree(tree),
       _source(std::make_unique<PatTreeDataSource>(host)),
       _split(new QSplitter(Qt::Vertical, this))
 {
     _source->setupWithDicomTree(tree);
-    tree->setSequenceProxies(_source.get());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->addWidget(_split);
@@ -44,7 +42,6 @@ PatientPane::PatientPane(BrowserHost* host, ZELDcmTree* tree, QWidget* parent)
 
 PatientPane::~PatientPane()
 {
-    _tree->setSequenceProxies(nullptr);
     delete _split;  // its views go before what they show
 }
 
@@ -75,7 +72,7 @@ void PatientPane::selectRow(dk_SequenceBase* sequence)
     _outline->U_SelectRowFor_dkSequence(sequence, false);
 }
 
-void PatientPane::fillSlowTexts() { _outline->viewport()->update(); }
+void PatientPane::fillSlowTexts() { _source->reloadData(); }
 
 void PatientPane::stopWork() { _source->pauseIconCalculator(); }
 

@@ -1,5 +1,5 @@
-// The left pane of a window: the browser of patients, studies and sequences, and below it the values
-// of the selected sequence. Main thread only.
+// The left pane of a window: the browser of patients, studies and sequences, and below it the
+// values of the selected sequence. Main thread only.
 #pragma once
 #include "browser/BrowserHost.h"
 
@@ -17,7 +17,7 @@ class PatientPane final : public QWidget {
     Q_OBJECT
 
 public:
-    // Host and tree outlive the pane. The tree's proxies are its.
+    // Host and tree outlive the pane.
     PatientPane(BrowserHost* host, ZELDcmTree* tree, QWidget* parent = nullptr);
     ~PatientPane() override;
 
@@ -41,7 +41,6 @@ protected:
 private:
     void applySavedSplit();
 
-    ZELDcmTree* _tree;
     std::unique_ptr<PatTreeDataSource> _source;
     QSplitter* _split;
     ZELPatientOutlineView* _outline;
