@@ -1759,4 +1759,594 @@
         <translation>Send</translation>
     </message>
 </context>
+<context>
+    <name>Viewer</name>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <translation>%1 (%2 of %3)</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore DICOMDIR</source>
+        <translation>&amp;Ignore DICOMDIR</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Choose a file or a folder to open</source>
+        <translation>Choose a file or a folder to open</translation>
+    </message>
+    <message>
+        <source>Drop files, folders or a DICOMDIR here, or choose them:</source>
+        <translation>Drop files, folders or a DICOMDIR here, or choose them:</translation>
+    </message>
+    <message>
+        <source>Frame %1 of %2</source>
+        <translation>Frame %1 of %2</translation>
+    </message>
+    <message>
+        <source>Frame shown, and how many there are</source>
+        <translation>Frame shown, and how many there are</translation>
+    </message>
+    <message>
+        <source>Include &amp;subfolders</source>
+        <translation>Include &amp;subfolders</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>Search the folder for images even if a DICOMDIR lists them</source>
+        <translation>Search the folder for images even if a DICOMDIR lists them</translation>
+    </message>
+    <message>
+        <source>Search the folders in the chosen folder too</source>
+        <translation>Search the folders in the chosen folder too</translation>
+    </message>
+    <message>
+        <source>Stop opening (Escape)</source>
+        <translation>Stop opening (Escape)</translation>
+    </message>
+    <message>
+        <source>There are no frames to show</source>
+        <translation>There are no frames to show</translation>
+    </message>
+    <message>
+        <source>This frame can't be shown</source>
+        <translation>This frame can't be shown</translation>
+    </message>
+    <message>
+        <source>What was open lately</source>
+        <translation>What was open lately</translation>
+    </message>
+    <message>
+        <source>Window %1, level %2</source>
+        <translation>Window %1, level %2</translation>
+    </message>
+    <message>
+        <source>Window width and level of this frame</source>
+        <translation>Window width and level of this frame</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayFields</name>
+    <message>
+        <source>Patient</source>
+        <translation>Patient</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Patient ID</source>
+        <translation>Patient ID</translation>
+    </message>
+    <message>
+        <source>Date of Birth</source>
+        <translation>Date of Birth</translation>
+    </message>
+    <message>
+        <source>Sex</source>
+        <translation>Sex</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Age</translation>
+    </message>
+    <message>
+        <source>Size (m)</source>
+        <translation>Size (m)</translation>
+    </message>
+    <message>
+        <source>Weight (kg)</source>
+        <translation>Weight (kg)</translation>
+    </message>
+    <message>
+        <source>Allergies</source>
+        <translation>Allergies</translation>
+    </message>
+    <message>
+        <source>Pregnancy Status</source>
+        <translation>Pregnancy Status</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Comments</translation>
+    </message>
+    <message>
+        <source>Study</source>
+        <translation>Study</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Study ID</source>
+        <translation>Study ID</translation>
+    </message>
+    <message>
+        <source>Accession Number</source>
+        <translation>Accession Number</translation>
+    </message>
+    <message>
+        <source>Referring Physician</source>
+        <translation>Referring Physician</translation>
+    </message>
+    <message>
+        <source>Reading Physician</source>
+        <translation>Reading Physician</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Series</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Modality</source>
+        <translation>Modality</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protocol</translation>
+    </message>
+    <message>
+        <source>Body Part</source>
+        <translation>Body Part</translation>
+    </message>
+    <message>
+        <source>Laterality</source>
+        <translation>Laterality</translation>
+    </message>
+    <message>
+        <source>Patient Position</source>
+        <translation>Patient Position</translation>
+    </message>
+    <message>
+        <source>Performing Physician</source>
+        <translation>Performing Physician</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Operator</translation>
+    </message>
+    <message>
+        <source>Equipment</source>
+        <translation>Equipment</translation>
+    </message>
+    <message>
+        <source>Institution</source>
+        <translation>Institution</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Department</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Manufacturer</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serial Number</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Agent</source>
+        <translation>Agent</translation>
+    </message>
+    <message>
+        <source>Route</source>
+        <translation>Route</translation>
+    </message>
+    <message>
+        <source>Volume (ml)</source>
+        <translation>Volume (ml)</translation>
+    </message>
+    <message>
+        <source>Flow Rate (ml/s)</source>
+        <translation>Flow Rate (ml/s)</translation>
+    </message>
+    <message>
+        <source>Ingredient</source>
+        <translation>Ingredient</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Instance Number</source>
+        <translation>Instance Number</translation>
+    </message>
+    <message>
+        <source>Acquisition Date</source>
+        <translation>Acquisition Date</translation>
+    </message>
+    <message>
+        <source>Acquisition Time</source>
+        <translation>Acquisition Time</translation>
+    </message>
+    <message>
+        <source>Content Date</source>
+        <translation>Content Date</translation>
+    </message>
+    <message>
+        <source>Content Time</source>
+        <translation>Content Time</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Frames</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rows</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>Bits Stored</source>
+        <translation>Bits Stored</translation>
+    </message>
+    <message>
+        <source>Photometric Interpretation</source>
+        <translation>Photometric Interpretation</translation>
+    </message>
+    <message>
+        <source>Pixel Spacing (mm)</source>
+        <translation>Pixel Spacing (mm)</translation>
+    </message>
+    <message>
+        <source>Lossy Compression</source>
+        <translation>Lossy Compression</translation>
+    </message>
+    <message>
+        <source>Compression Ratio</source>
+        <translation>Compression Ratio</translation>
+    </message>
+    <message>
+        <source>Window Width</source>
+        <translation>Window Width</translation>
+    </message>
+    <message>
+        <source>Window Center</source>
+        <translation>Window Center</translation>
+    </message>
+    <message>
+        <source>View Position</source>
+        <translation>View Position</translation>
+    </message>
+    <message>
+        <source>Slice</source>
+        <translation>Slice</translation>
+    </message>
+    <message>
+        <source>Slice Thickness (mm)</source>
+        <translation>Slice Thickness (mm)</translation>
+    </message>
+    <message>
+        <source>Slice Spacing (mm)</source>
+        <translation>Slice Spacing (mm)</translation>
+    </message>
+    <message>
+        <source>Slice Location (mm)</source>
+        <translation>Slice Location (mm)</translation>
+    </message>
+    <message>
+        <source>Image Position (mm)</source>
+        <translation>Image Position (mm)</translation>
+    </message>
+    <message>
+        <source>Image Orientation</source>
+        <translation>Image Orientation</translation>
+    </message>
+    <message>
+        <source>X-Ray</source>
+        <translation>X-Ray</translation>
+    </message>
+    <message>
+        <source>Tube Voltage (kV)</source>
+        <translation>Tube Voltage (kV)</translation>
+    </message>
+    <message>
+        <source>Tube Current (mA)</source>
+        <translation>Tube Current (mA)</translation>
+    </message>
+    <message>
+        <source>Exposure Time (ms)</source>
+        <translation>Exposure Time (ms)</translation>
+    </message>
+    <message>
+        <source>Exposure (mAs)</source>
+        <translation>Exposure (mAs)</translation>
+    </message>
+    <message>
+        <source>Dose Area Product (dGy·cm²)</source>
+        <translation>Dose Area Product (dGy·cm²)</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Focal Spot (mm)</source>
+        <translation>Focal Spot (mm)</translation>
+    </message>
+    <message>
+        <source>Source to Detector (mm)</source>
+        <translation>Source to Detector (mm)</translation>
+    </message>
+    <message>
+        <source>Source to Patient (mm)</source>
+        <translation>Source to Patient (mm)</translation>
+    </message>
+    <message>
+        <source>Primary Angle (°)</source>
+        <translation>Primary Angle (°)</translation>
+    </message>
+    <message>
+        <source>Secondary Angle (°)</source>
+        <translation>Secondary Angle (°)</translation>
+    </message>
+    <message>
+        <source>Body Part Thickness (mm)</source>
+        <translation>Body Part Thickness (mm)</translation>
+    </message>
+    <message>
+        <source>Compression Force (N)</source>
+        <translation>Compression Force (N)</translation>
+    </message>
+    <message>
+        <source>Organ Dose (dGy)</source>
+        <translation>Organ Dose (dGy)</translation>
+    </message>
+    <message>
+        <source>CT</source>
+        <translation>CT</translation>
+    </message>
+    <message>
+        <source>Kernel</source>
+        <translation>Kernel</translation>
+    </message>
+    <message>
+        <source>Reconstruction Diameter (mm)</source>
+        <translation>Reconstruction Diameter (mm)</translation>
+    </message>
+    <message>
+        <source>Collection Diameter (mm)</source>
+        <translation>Collection Diameter (mm)</translation>
+    </message>
+    <message>
+        <source>Gantry Tilt (°)</source>
+        <translation>Gantry Tilt (°)</translation>
+    </message>
+    <message>
+        <source>Table Height (mm)</source>
+        <translation>Table Height (mm)</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Pitch</translation>
+    </message>
+    <message>
+        <source>CTDIvol (mGy)</source>
+        <translation>CTDIvol (mGy)</translation>
+    </message>
+    <message>
+        <source>Scan Options</source>
+        <translation>Scan Options</translation>
+    </message>
+    <message>
+        <source>Rescale Intercept</source>
+        <translation>Rescale Intercept</translation>
+    </message>
+    <message>
+        <source>Rescale Slope</source>
+        <translation>Rescale Slope</translation>
+    </message>
+    <message>
+        <source>MR</source>
+        <translation>MR</translation>
+    </message>
+    <message>
+        <source>Scanning Sequence</source>
+        <translation>Scanning Sequence</translation>
+    </message>
+    <message>
+        <source>Sequence Variant</source>
+        <translation>Sequence Variant</translation>
+    </message>
+    <message>
+        <source>Sequence Name</source>
+        <translation>Sequence Name</translation>
+    </message>
+    <message>
+        <source>Acquisition Type</source>
+        <translation>Acquisition Type</translation>
+    </message>
+    <message>
+        <source>Field Strength (T)</source>
+        <translation>Field Strength (T)</translation>
+    </message>
+    <message>
+        <source>Repetition Time (ms)</source>
+        <translation>Repetition Time (ms)</translation>
+    </message>
+    <message>
+        <source>Echo Time (ms)</source>
+        <translation>Echo Time (ms)</translation>
+    </message>
+    <message>
+        <source>Inversion Time (ms)</source>
+        <translation>Inversion Time (ms)</translation>
+    </message>
+    <message>
+        <source>Flip Angle (°)</source>
+        <translation>Flip Angle (°)</translation>
+    </message>
+    <message>
+        <source>Echo Train Length</source>
+        <translation>Echo Train Length</translation>
+    </message>
+    <message>
+        <source>Averages</source>
+        <translation>Averages</translation>
+    </message>
+    <message>
+        <source>Pixel Bandwidth (Hz)</source>
+        <translation>Pixel Bandwidth (Hz)</translation>
+    </message>
+    <message>
+        <source>Receive Coil</source>
+        <translation>Receive Coil</translation>
+    </message>
+    <message>
+        <source>SAR (W/kg)</source>
+        <translation>SAR (W/kg)</translation>
+    </message>
+    <message>
+        <source>Ultrasound and Cine</source>
+        <translation>Ultrasound and Cine</translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation>Stage</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>Transducer</source>
+        <translation>Transducer</translation>
+    </message>
+    <message>
+        <source>Frame Time (ms)</source>
+        <translation>Frame Time (ms)</translation>
+    </message>
+    <message>
+        <source>Cine Rate (1/s)</source>
+        <translation>Cine Rate (1/s)</translation>
+    </message>
+    <message>
+        <source>Display Rate (1/s)</source>
+        <translation>Display Rate (1/s)</translation>
+    </message>
+    <message>
+        <source>Heart Rate (1/min)</source>
+        <translation>Heart Rate (1/min)</translation>
+    </message>
+    <message>
+        <source>Mechanical Index</source>
+        <translation>Mechanical Index</translation>
+    </message>
+    <message>
+        <source>Thermal Index Soft Tissue</source>
+        <translation>Thermal Index Soft Tissue</translation>
+    </message>
+    <message>
+        <source>Depth of Scan Field (mm)</source>
+        <translation>Depth of Scan Field (mm)</translation>
+    </message>
+    <message>
+        <source>Nuclear Medicine and PET</source>
+        <translation>Nuclear Medicine and PET</translation>
+    </message>
+    <message>
+        <source>Radiopharmaceutical</source>
+        <translation>Radiopharmaceutical</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Units</translation>
+    </message>
+    <message>
+        <source>Decay Correction</source>
+        <translation>Decay Correction</translation>
+    </message>
+    <message>
+        <source>Counts Accumulated</source>
+        <translation>Counts Accumulated</translation>
+    </message>
+    <message>
+        <source>Frame Duration (ms)</source>
+        <translation>Frame Duration (ms)</translation>
+    </message>
+    <message>
+        <source>Reconstruction Method</source>
+        <translation>Reconstruction Method</translation>
+    </message>
+    <message>
+        <source>Attenuation Correction</source>
+        <translation>Attenuation Correction</translation>
+    </message>
+</context>
 </TS>

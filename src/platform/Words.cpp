@@ -6,7 +6,9 @@
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
+#include <algorithm>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -19,7 +21,7 @@ class WordTables {
 public:
     WordTables()
     {
-        // Each of the user's languages is listed as "de-AT", then "de".
+        // Each of the user's languages is listed as "de-AT", then "de"; files are named with "_".
         for (const QString& language : QLocale::system().uiLanguages()) {
             const std::string name = language.toStdString();
             if (Add(name))
@@ -40,7 +42,9 @@ private:
     bool Add(std::string_view language)
     {
         for (const WordFile& file : WordFiles()) {
-            if (file.fLanguage != language)
+            std::string name(file.fLanguage);
+            std::ranges::replace(name, '_', '-');
+            if (name != language)
                 continue;
             auto translator = std::make_unique<QTranslator>();
             translator->moveToThread(nullptr);  // the first who asks may be a thread that ends

@@ -14,7 +14,9 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 #include <algorithm>
 #include <filesystem>
 #include <string>
@@ -76,6 +78,11 @@ int main(int argc, char** argv)
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Zelora Viewer"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.zelora.Viewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZELORA_VERSION));
+    // The toolkit's own words, where they are installed.
+    QTranslator toolkitWords;
+    if (toolkitWords.load(QLocale::system(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkitWords);
     ZELAppDelegate viewer(snapshot, {dataFolder, place, [&copies] { return copies.places(); }});
     handOver->setReceived(
         [&viewer](std::vector<std::string> more) { viewer.takeOver(std::move(more)); });

@@ -1,12 +1,19 @@
 #include "app/nodes/InfoFields.h"
 
 #include "platform/PropertyList.h"
+#include "platform/Words.h"
 
 namespace {
 
 constexpr unsigned char kDisplayFields[] = {
 #include "DisplayFields.inc"
 };
+
+// Titles of a list that isn't the program's own stay as they are.
+QString Translated(const QVariant& title)
+{
+    return ZelWord("DisplayFields", title.toString().toUtf8().constData());
+}
 
 }  // namespace
 
@@ -15,12 +22,12 @@ InfoFields InfoFieldsOfList(const QByteArray& list)
     InfoFields fields;
     for (const QVariant& value : ReadPropertyList(list).fRoot.toList()) {
         const QVariantMap category = value.toMap();
-        const QString title = category[QStringLiteral("Category")].toString();
+        const QString title = Translated(category[QStringLiteral("Category")]);
         fields.push_back(std::make_unique<CategoryInfoField>(title));
         for (const QVariant& each : category[QStringLiteral("Elems")].toList()) {
             const QVariantMap elem = each.toMap();
             fields.push_back(std::make_unique<BaseInfoField>(
-                title, elem[QStringLiteral("Title")].toString(),
+                title, Translated(elem[QStringLiteral("Title")]),
                 elem[QStringLiteral("Data")].toInt(), elem[QStringLiteral("Group")].toInt(),
                 elem[QStringLiteral("Elem")].toInt()));
         }

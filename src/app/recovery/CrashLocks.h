@@ -1,5 +1,5 @@
-// The mark that a run leaves and only a clean end removes: one lock file a run, in a folder that all
-// copies of the program share. Nothing is held open; who runs is told by others. Failing file
+// The mark that a run leaves and only a clean end removes: one lock file a run, in a folder that
+// all copies of the program share. Nothing is held open; who runs is told by others. Failing file
 // operations are ignored: the worst that comes of them is a first aid that wasn't needed. Paths are
 // bytes. Main thread only.
 #pragma once
@@ -22,8 +22,8 @@ public:
     // A run before this one did not end cleanly. Asked before this run writes its lock.
     [[nodiscard]] bool U_CrashSemaphoreExists() const;
 
-    // `place` is empty for an empty file. -43 if it leads nowhere (any more), -19 for a file that
-    // was cut off, an errno if it can't be read.
+    // `place` is empty for an empty file, and need not be there any more. -43 for a file that names
+    // none, -19 for one that was cut off, an errno if it can't be read.
     [[nodiscard]] static QvxStatus readContentsOfFile(const std::string& path, std::string* place);
     [[nodiscard]] const std::string& crashLockFile() const { return fCrashLockFile; }
 

@@ -348,8 +348,8 @@ constexpr ToolRow kToolRows[] = {
     {kToolCalibration, "Calibration Line", nullptr},
     {kToolText, "Text", nullptr},
     {kToolEyedropper, "Eyedropper", nullptr},
-    {ToolScope::kTagFrame, "Current Frame", nullptr},
-    {ToolScope::kTagSequence, "All Frames of the Sequence", nullptr},
+    {ToolScope::kTagFrame, "Current Frame", "Shift+S"},
+    {ToolScope::kTagSequence, "All Frames of the Sequence", "S"},
 };
 // clang-format on
 

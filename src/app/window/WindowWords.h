@@ -1,15 +1,12 @@
 // Texts of the windows, and text from files made fit for them.
 #pragma once
+#include "platform/Words.h"
 #include "util/Log.h"
 
-#include <QCoreApplication>
 #include <QString>
 #include <string_view>
 
-[[nodiscard]] inline QString ViewerWord(const char* key)
-{
-    return QCoreApplication::translate("Viewer", key);
-}
+[[nodiscard]] inline QString ViewerWord(const char* key) { return ZelWord("Viewer", key); }
 
 // Bytes for people: control characters, and bytes that are no UTF-8, as \xNN.
 [[nodiscard]] inline QString DisplayText(std::string_view bytes)
