@@ -107,6 +107,9 @@ TEST(GridLayoutView, each_tool_changes_the_picture_of_its_grid_alone)
                 return window.View(number).viewport()->grab().toImage();
             };
             const int other = layout.grids() > 1 ? 2 : 1;
+            // Until then pictures may come in a lower quality, and change by themselves.
+            EXPECT_TRUE(QTest::qWaitFor(
+                [&] { return window.View(1).isSettled() && window.View(other).isSettled(); }));
             const QImage before = shown(1), beside = shown(other);
             window.Drag(1, {60, 60}, {80, 40});
             QCoreApplication::processEvents();
