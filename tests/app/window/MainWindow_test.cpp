@@ -3,6 +3,7 @@
 #include "app/window/AppCommands.h"
 #include "app/window/MainToolBar.h"
 #include "app/window/ZELMainWindowController.h"
+#include "browser/ZELPatientOutlineView.h"
 #include "dicom_core/opening/RecentDocuments.h"
 
 #include <QAbstractButton>
@@ -12,6 +13,8 @@
 #include <QMenuBar>
 #include <QTest>
 #include <QToolButton>
+#include <algorithm>
+#include <set>
 
 namespace {
 
@@ -182,6 +185,35 @@ TEST(MainWindow, tells_when_it_comes_and_goes)
     EXPECT_EQ(goings, std::vector<bool>{true});
     EXPECT_EQ(open.app.log, Words{"closed"});
     EXPECT_EQ(prefs_MainSplitSizes().size(), 2u);
+}
+
+TEST(MainWindow, the_keyboard_alone_reaches_everything)
+{
+    OpenWindow open;
+    std::set<std::string> reached;
+    QWidget* const first = open.window->pane()->view();
+    first->setFocus();
+    for (int i = 0; i < 120; ++i) {
+        QTest::keyClick(open.window->focusWidget(), Qt::Key_Tab);
+        const QWidget* at = open.window->focusWidget();
+        ASSERT_TRUE(at);
+        reached.insert(at->metaObject()->className() + (":" + at->accessibleName().toStdString()));
+        if (at == first)
+            break;
+    }
+    EXPECT_EQ(open.window->focusWidget(), first) << "the walk comes round";
+    for (const char* part : {"ZELPatientOutlineView", "QSlider", "QTableView", "QLineEdit:Zoom",
+                             "QLineEdit:Window width", "QLineEdit:Frame", "QToolButton:Series Grid",
+                             "ZELDraggingSequenceGridView"})
+        EXPECT_TRUE(std::ranges::any_of(reached, [part](const std::string& name) {
+            return name.starts_with(part);
+        })) << part;
+    // From the list into the grid, and every menu by its key.
+    open.window->findChild<ZELPatientOutlineView*>()->setFocus();
+    QTest::keyClick(open.window->focusWidget(), Qt::Key_Down);
+    QTest::keyClick(open.window->focusWidget(), Qt::Key_Return);
+    for (const QAction* menu : open.window->menuBar()->actions())
+        EXPECT_TRUE(menu->text().contains(u'&')) << menu->text().toStdString();
 }
 
 // For those who can't see it, or use no mouse.
