@@ -82,7 +82,7 @@ ZELPanTracker::ZELPanTracker(Grid& grid, int cell, const QPointF& press)
 void ZELPanTracker::move(const QPointF& offset, const TrackerEvent& event)
 {
     const QPointF held = lockedOffset(offset, event.shift);
-    if (fLimit.isNull() || (held.isNull() && !fMoved))  // it fits, or it hasn't moved yet
+    if (fLimit.isNull() || held.isNull())  // it fits, or there is nothing to add
         return;
     const QPointF by = _grid.U_ReverseGeomTransformDeltaScroll(held, frame());
     const QPointF to = origScrollPos + by;
