@@ -47,8 +47,7 @@ public:
         do
             *--at = "0123456789abcdef"[value % base];
         while ((value /= base) != 0);
-        return *this << std::string_view(at,
-                                         static_cast<std::size_t>(digits + sizeof digits - at));
+        return *this << std::string_view(at, static_cast<std::size_t>(digits + sizeof digits - at));
     }
 
 private:

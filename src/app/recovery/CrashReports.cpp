@@ -56,8 +56,8 @@ std::string U_GetUniqueFileName(const std::string& folder, const std::string& na
     fs::path free = wanted;
     std::error_code failed;
     for (int i = 1; fs::exists(free, failed); ++i)
-        free = wanted.parent_path() / (wanted.stem().native() + '_' + std::to_string(i) +
-                                       wanted.extension().native());
+        free = wanted.parent_path() /
+               (wanted.stem().native() + '_' + std::to_string(i) + wanted.extension().native());
     return free.native();
 }
 

@@ -32,7 +32,6 @@ struct TextRange {
 };
 // Absolute paths and file URLs, the user's name and home folder, and whatever the preferences hold
 // of folders and documents: these may name patients.
-[[nodiscard]] std::vector<TextRange> RevealingRanges(const QString& text,
-                                                     const ReportParts& parts);
+[[nodiscard]] std::vector<TextRange> RevealingRanges(const QString& text, const ReportParts& parts);
 // The text with these parts struck out, and every other place where the same words stand.
 [[nodiscard]] QString Struck(QString text, const std::vector<QString>& words);
