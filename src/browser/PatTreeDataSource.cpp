@@ -141,7 +141,8 @@ IconWorkQueue::Surroundings PatTreeDataSource::surroundings() const
 
 void PatTreeDataSource::scheduleTick()
 {
-    if (_work.pending() > 0 && _work.weCanStillCalculate() && !_iconCalculator.isActive())
+    if (!_workIsHeld && _work.pending() > 0 && _work.weCanStillCalculate() &&
+        !_iconCalculator.isActive())
         _iconCalculator.start(_tree && _tree->isOnSlowMedia() ? kIconTick_ms : 0);
 }
 
@@ -171,6 +172,15 @@ void PatTreeDataSource::reloadAllIcons()
     restartIconCalculator(_work.pending() + static_cast<int>(_leaves.size()));
     _notedHeights = true;
     _noteTimer.start(0);
+}
+
+void PatTreeDataSource::setWorkHeld(bool held)
+{
+    _workIsHeld = held;
+    if (held)
+        _iconCalculator.stop();
+    else
+        scheduleTick();
 }
 
 void PatTreeDataSource::pauseIconCalculator()

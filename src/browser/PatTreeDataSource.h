@@ -69,6 +69,8 @@ public:
     // ---- work ----
 
     void reloadAllIcons();
+    // Held: work waits for something more urgent, as the first pictures of a window.
+    void setWorkHeld(bool held);
     void pauseIconCalculator();
     void restartIconCalculator(int expected);  // 0: what is pending
     void handleImageCalc(DicomElemChildNode* node, const QImage& image, float height);
@@ -130,6 +132,7 @@ private:
     QTimer _iconCalculator, _recalculator, _noteTimer;
     std::unordered_set<const DicomElemChildNode*> _notedRows;
     bool _notedHeights = false;
+    bool _workIsHeld = false;
     QPersistentModelIndex _dragFirst;
     std::vector<NotificationCenter::Observation> _observations;
 };

@@ -74,6 +74,8 @@ void PatientPane::selectRow(dk_SequenceBase* sequence)
 
 void PatientPane::fillSlowTexts() { _source->reloadData(); }
 
+void PatientPane::holdWork(bool held) { _source->setWorkHeld(held); }
+
 void PatientPane::stopWork() { _source->pauseIconCalculator(); }
 
 bool PatientPane::showsStudyInfo() const { return !_info->viewIsClosed(); }

@@ -28,7 +28,8 @@ public:
     void selectRow(dk_SequenceBase* sequence);  // without revealing it
     // The window is ready: texts that need files come in.
     void fillSlowTexts();
-    void stopWork();  // for good
+    void holdWork(bool held);  // thumbnails and texts wait
+    void stopWork();           // for good
 
     [[nodiscard]] bool showsStudyInfo() const;
     void toggleInfoPane();

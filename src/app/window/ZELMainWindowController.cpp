@@ -42,6 +42,7 @@ ZELMainWindowController::ZELMainWindowController(AppCommands* app, std::unique_p
     setWindowTitle(WindowTitleText(DisplayName(represented)));
     setAcceptDrops(true);
     _patients = new PatientPane(this, _imagesDB.get(), this);
+    _patients->holdWork(true);
     _pane = new GridsPane(this, _imagesDB.get(), this);
     const WindowTarget target{_pane, &_pane->actions(), &_pane->tools(), this};
     _toolBar = new MainToolBar(target, this);
@@ -195,6 +196,8 @@ void ZELMainWindowController::onPainted()
     if (!_wholly && _whenPainted)
         std::exchange(_whenPainted, nullptr)();
     updateToolbarElements();
+    if (_pane->layoutView()->showsAll() && !std::exchange(_showsAll, true))
+        _patients->holdWork(false);
     if (wholly && _whenPainted)
         std::exchange(_whenPainted, nullptr)();
 }

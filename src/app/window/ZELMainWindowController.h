@@ -112,7 +112,7 @@ private:
     NotificationCenter::Observation _toolSelection;
     std::unique_ptr<zelParserVisit> _firstFile;  // until the first frame has been painted
     std::function<void()> _whenPainted;
-    bool _painted = false, _wholly = true;
+    bool _painted = false, _showsAll = false, _wholly = true;
     bool _firstTimeFlag = true;  // it has not been the key window yet
     bool _windowClosing = false, _zelWindowIsReady = false;
     bool _fastPatientListStartON = true;  // rows make do with what is known without files
