@@ -1,5 +1,6 @@
 #include "app/draw/AnnotationLook.h"
 
+#include "app/grid/GridNotifications.h"
 #include "app/grid/ZELSequenceGridViewModelController.h"
 #include "dicom_core/annotations/PrepareSequenceAnnotations.h"
 #include "dicom_core/opening/ZELDcmTree.h"
@@ -37,7 +38,9 @@ AnnotationLook::AnnotationLook(GridHost* host)
                    kNoteAnnotationFontChanged,
                    [this](const Notification& note) { changeFontForDemographics(note); }),
                NotificationCenter::Default().AddObserver(
-                   kNoteUSRegionsColorChange, [this](const Notification&) { redrawGrids(); })}
+                   kNoteUSRegionsColorChange, [this](const Notification&) { redrawGrids(); }),
+               NotificationCenter::Default().AddObserver(
+                   kNoteUSRegionsShowHide, [this](const Notification&) { redrawGrids(); })}
 {
 }
 

@@ -24,5 +24,5 @@ private:
     void redrawGrids();
 
     GridHost* fHost;
-    std::array<NotificationCenter::Observation, 3> fChanges;
+    std::array<NotificationCenter::Observation, 4> fChanges;
 };

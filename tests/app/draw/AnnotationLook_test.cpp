@@ -38,6 +38,8 @@ TEST(AnnotationLook, reaches_every_sequence_and_paints_the_grids)
     window.a.setCineModeIsON(true);
     NotificationCenter::Default().Post(kNoteUSRegionsColorChange, nullptr);
     EXPECT_EQ(window.host.Take(), (Words{"B all"})) << "what plays paints itself";
+    NotificationCenter::Default().Post(kNoteUSRegionsShowHide, nullptr);
+    EXPECT_EQ(window.host.Take(), (Words{"B all"})) << "shown and hidden in every window";
     SetSequenceAnnotationsMaker(nullptr);
 }
 
