@@ -38,6 +38,8 @@ PatientPane::PatientPane(BrowserHost* host, ZELDcmTree* tree, QWidget* parent)
     _split->setCollapsible(0, false);
     _split->setStretchFactor(0, 1);
     _outline->U_ExpandTreeToSequences();
+    _gridIDs.setSingleShot(true);
+    connect(&_gridIDs, &QTimer::timeout, this, &PatientPane::updateGridIDs);
 }
 
 PatientPane::~PatientPane()
@@ -53,6 +55,7 @@ std::shared_ptr<ZELSequenceProxy> PatientPane::proxyOf(dk_SequenceBase* sequence
 void PatientPane::updateNodeForSequence(dk_SequenceBase* sequence)
 {
     _source->updateNodeForSequence(sequence);
+    _gridIDs.start(0);
 }
 
 void PatientPane::updateGridIDs() { _source->updateGridIDs(); }

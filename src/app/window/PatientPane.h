@@ -3,6 +3,7 @@
 #pragma once
 #include "browser/BrowserHost.h"
 
+#include <QTimer>
 #include <QWidget>
 #include <memory>
 
@@ -22,6 +23,7 @@ public:
     ~PatientPane() override;
 
     [[nodiscard]] std::shared_ptr<ZELSequenceProxy> proxyOf(dk_SequenceBase* sequence);
+    // Its row is shown anew; in which grid it stands is asked once for all rows of an event.
     void updateNodeForSequence(dk_SequenceBase* sequence);
     void updateGridIDs();  // sequences have changed their grids
     [[nodiscard]] std::vector<dk_SequenceBase*> selectedSequences() const;
@@ -46,5 +48,6 @@ private:
     QSplitter* _split;
     ZELPatientOutlineView* _outline;
     InfoPane* _info;
+    QTimer _gridIDs;
     bool _splitIsApplied = false;
 };

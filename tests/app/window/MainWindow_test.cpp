@@ -125,6 +125,21 @@ TEST(MainWindow, keeps_the_active_sequence_when_grids_go)
     EXPECT_EQ(pane.proxy()->theSequence(), active);
 }
 
+// Also by ways that no notification tells of, as a drop on a grid that isn't active.
+TEST(MainWindow, the_list_knows_in_which_grid_a_sequence_stands)
+{
+    OpenWindow open({{}, {.frames = 3}, {.frames = 2}, {.frames = 1}, {.frames = 1}});
+    GridsPane& pane = *open.window->pane();
+    PatTreeDataSource& source = *open.window->findChild<ZELPatientOutlineView*>()->dataSource();
+    dk_SequenceBase* last = open.window->imagesDB().lastSequence_DICOM();
+    dk_SequenceBase* before = pane.gridControllers()[2]->curr_dkSequence();
+    EXPECT_EQ(source.nodeFor(last)->gridID(), 0);
+    pane.changeSequenceTo(pane.proxyOf(last), *pane.gridControllers()[2]);
+    QTest::qWait(10);
+    EXPECT_EQ(source.nodeFor(last)->gridID(), 3);
+    EXPECT_EQ(source.nodeFor(before)->gridID(), 0);
+}
+
 TEST(MainWindow, panes_come_and_go_and_are_remembered)
 {
     OpenWindow open;
