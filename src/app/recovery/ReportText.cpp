@@ -53,6 +53,15 @@ void AddTexts(const QVariant& value, std::vector<QString>* texts)
     }
 }
 
+// Nobody's name stands in these, and a trace without its libraries tells nothing.
+bool IsOfTheSystem(QStringView path)
+{
+    static constexpr const char* kFolders[] = {"/lib",   "/usr/lib", "/usr/bin/",
+                                               "/proc/", "/sys/",    "/dev/"};
+    return std::ranges::any_of(
+        kFolders, [path](const char* folder) { return path.startsWith(QLatin1String(folder)); });
+}
+
 // The clock of the first processor, 0 where the system doesn't tell.
 double Clock_GHz()
 {
@@ -142,8 +151,9 @@ std::vector<TextRange> RevealingRanges(const QString& text, const ReportParts& p
         QStringLiteral("(file://)?/[^\\s<>\"'():]+/?[^\\s<>\"'():]*"));
     for (auto each = kPath.globalMatch(text); each.hasNext();) {
         const QRegularExpressionMatch match = each.next();
-        found.push_back(
-            {static_cast<int>(match.capturedStart()), static_cast<int>(match.capturedLength())});
+        if (!IsOfTheSystem(match.capturedView()))
+            found.push_back({static_cast<int>(match.capturedStart()),
+                             static_cast<int>(match.capturedLength())});
     }
     std::ranges::sort(found, {}, &TextRange::start);
     std::vector<TextRange> joined;
