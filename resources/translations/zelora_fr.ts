@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>progrOpenOpening</source>
-        <translation>Ouverture : </translation>
+        <translation>Ouverture de </translation>
     </message>
     <message>
         <source>progress_Cancelling</source>
@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>progrOpen_ExaminingFile</source>
-        <translation>Examen : </translation>
+        <translation>Examen de </translation>
     </message>
     <message>
         <source>progrOpen_ReadingFile</source>
-        <translation>Lecture : </translation>
+        <translation>Lecture de </translation>
     </message>
     <message>
         <source>progrOpen_ParsingDicomDir</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>progrOpen_CopyingFile</source>
-        <translation>Copie de %1 (%2 sur %3 Mo)</translation>
+        <translation>Copie de %1 (%2 sur %3 Mo)</translation>
     </message>
     <message>
         <source>Anonymized</source>
@@ -61,23 +61,23 @@
     </message>
     <message>
         <source>varDir is empty.</source>
-        <translation>« %1 » est vide.</translation>
+        <translation>« %1 » est vide.</translation>
     </message>
     <message>
         <source>varDir contains a DICOMDIR. Choosing this folder will create a patient list.</source>
-        <translation>« %1 » contient un DICOMDIR. Choisir ce dossier ouvre la liste de patients qu’il contient.</translation>
+        <translation>« %1 » contient un DICOMDIR. Choisir ce dossier ouvre la liste des patients qui s’y trouve.</translation>
     </message>
     <message>
         <source>varDir does not contain a DICOMDIR.</source>
-        <translation>« %1 » ne contient pas de DICOMDIR. Le choisir ouvre les images qu’il contient.</translation>
+        <translation>« %1 » ne contient pas de DICOMDIR. Choisir ce dossier ouvre les images qui s’y trouvent.</translation>
     </message>
     <message>
         <source>Last check</source>
-        <translation>Dernière recherche :</translation>
+        <translation>Dernière vérification :</translation>
     </message>
     <message>
         <source>Last check never</source>
-        <translation>Aucune recherche de mises à jour n’a encore eu lieu.</translation>
+        <translation>Aucune recherche de mises à jour effectuée.</translation>
     </message>
     <message>
         <source>1 frame</source>
@@ -109,19 +109,19 @@
     </message>
     <message>
         <source>%.2f sec</source>
-        <translation>%1 s</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%.2f sec, %dx%d pixels</source>
-        <translation>%1 s, %2x%3 pixels</translation>
+        <translation>%1 s, %2x%3 pixels</translation>
     </message>
     <message>
         <source>... sec</source>
-        <translation>... s</translation>
+        <translation>... s</translation>
     </message>
     <message>
         <source>... sec, ... pixels</source>
-        <translation>... s, ... pixels</translation>
+        <translation>... s, ... pixels</translation>
     </message>
     <message>
         <source>%@, %d x %d pixels</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Patient Browser</source>
-        <translation>Liste des patients</translation>
+        <translation>Navigateur de patients</translation>
     </message>
     <message>
         <source>Info Pane</source>
@@ -160,27 +160,27 @@
     <name>ZELErrors</name>
     <message>
         <source>FileCannotBeOpened</source>
-        <translation>« %1 » ne peut pas être ouvert.</translation>
+        <translation>Impossible d’ouvrir « %1 ».</translation>
     </message>
     <message>
         <source>NoDICOMFilesFound</source>
-        <translation>Aucune image DICOM n’a été trouvée dans « %1 ».</translation>
+        <translation>Aucune image DICOM trouvée dans « %1 ».</translation>
     </message>
     <message>
         <source>DICOMDIRNoImagesFound</source>
-        <translation>Le DICOMDIR de « %1 » ne mène à aucune image.</translation>
+        <translation>Le DICOMDIR de « %1 » ne mène à aucune image.</translation>
     </message>
     <message>
         <source>NoDICOMDIRImagesFound</source>
-        <translation>Aucun des fichiers cités par le DICOMDIR n’a été trouvé. Pour chercher des images dans le dossier lui-même, ouvrez-le avec « Ignorer le DICOMDIR ».</translation>
+        <translation>Aucun des fichiers répertoriés dans le DICOMDIR n’a été trouvé. Pour rechercher des images dans le dossier lui-même, ouvrez-le avec l’option « Ignorer le DICOMDIR » activée.</translation>
     </message>
     <message>
         <source>RecentDocError</source>
-        <translation>« %1 » ne peut pas être ouvert.</translation>
+        <translation>Impossible d’ouvrir « %1 ».</translation>
     </message>
     <message>
         <source>RecentWillBeDeleted</source>
-        <translation>Il a peut-être été déplacé ou supprimé. Son entrée sera retirée du menu Ouvrir récent.</translation>
+        <translation>L’élément a peut-être été déplacé ou supprimé. Son entrée sera retirée du menu Ouvrir un élément récent.</translation>
     </message>
     <message>
         <source>BadImage</source>
@@ -188,7 +188,7 @@
     </message>
     <message>
         <source>ResetToWWWLDefaults</source>
-        <translation>Rétablir les préréglages de fenêtrage par défaut ?</translation>
+        <translation>Rétablir les préréglages de fenêtrage par défaut ?</translation>
     </message>
     <message>
         <source>ResetToWWWLExplain</source>
@@ -200,7 +200,7 @@
     </message>
     <message>
         <source>Reset</source>
-        <translation>Rétablir</translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -211,11 +211,11 @@
     <name>MenuItems</name>
     <message>
         <source>Clear Menu</source>
-        <translation>Effacer la liste</translation>
+        <translation>Effacer le menu</translation>
     </message>
     <message>
         <source>Region # title</source>
-        <translation>Région %1 : %2</translation>
+        <translation>Région %1 : %2</translation>
     </message>
     <message>
         <source>Region #</source>
@@ -239,51 +239,51 @@
     </message>
     <message>
         <source>PW Spectral Doppler</source>
-        <translation>Doppler spectral pulsé</translation>
+        <translation>Doppler spectral pulsé (PW)</translation>
     </message>
     <message>
         <source>CW Spectral Doppler</source>
-        <translation>Doppler spectral continu</translation>
+        <translation>Doppler spectral continu (CW)</translation>
     </message>
     <message>
         <source>Doppler Mean Trace</source>
-        <translation>Courbe Doppler moyenne</translation>
+        <translation>Tracé Doppler moyen</translation>
     </message>
     <message>
         <source>Doppler Mode Trace</source>
-        <translation>Courbe Doppler modale</translation>
+        <translation>Tracé Doppler modal</translation>
     </message>
     <message>
         <source>Doppler Max Trace</source>
-        <translation>Courbe Doppler maximale</translation>
+        <translation>Tracé Doppler maximal</translation>
     </message>
     <message>
         <source>Volume Trace</source>
-        <translation>Courbe de volume</translation>
+        <translation>Tracé de volume</translation>
     </message>
     <message>
         <source>d(volume)/dt Trace</source>
-        <translation>Courbe d(volume)/dt</translation>
+        <translation>Tracé d(volume)/dt</translation>
     </message>
     <message>
         <source>ECG Trace</source>
-        <translation>Courbe ECG</translation>
+        <translation>Tracé ECG</translation>
     </message>
     <message>
         <source>Pulse Trace</source>
-        <translation>Courbe de pouls</translation>
+        <translation>Tracé du pouls</translation>
     </message>
     <message>
         <source>Phonocardiogram Trace</source>
-        <translation>Courbe de phonocardiogramme</translation>
+        <translation>Tracé phonocardiographique</translation>
     </message>
     <message>
         <source>Gray bar</source>
-        <translation>Échelle de gris</translation>
+        <translation>Barre de gris</translation>
     </message>
     <message>
         <source>Color bar</source>
-        <translation>Échelle de couleurs</translation>
+        <translation>Barre de couleurs</translation>
     </message>
     <message>
         <source>Integrated Backscatter</source>
@@ -291,7 +291,7 @@
     </message>
     <message>
         <source>Area Trace</source>
-        <translation>Courbe de surface</translation>
+        <translation>Tracé de surface</translation>
     </message>
     <message>
         <source>d(area)/dt</source>
@@ -303,11 +303,11 @@
     </message>
     <message>
         <source>Series Grid</source>
-        <translation>Grille de séries</translation>
+        <translation>Grille des séries</translation>
     </message>
     <message>
         <source>Single</source>
-        <translation>Simple</translation>
+        <translation>Unique</translation>
     </message>
     <message>
         <source>2 rows</source>
@@ -375,7 +375,7 @@
     </message>
     <message>
         <source>Image Grid</source>
-        <translation>Grille d’images</translation>
+        <translation>Grille des images</translation>
     </message>
     <message>
         <source>1 x 1</source>
@@ -419,7 +419,7 @@
     </message>
     <message>
         <source>Other...</source>
-        <translation>Autre…</translation>
+        <translation>Autre...</translation>
     </message>
     <message>
         <source>Previous Sequence</source>
@@ -435,7 +435,7 @@
     </message>
     <message>
         <source>Unmark Sequence</source>
-        <translation>Retirer la marque de la séquence</translation>
+        <translation>Démarquer la séquence</translation>
     </message>
     <message>
         <source>Go</source>
@@ -471,7 +471,7 @@
     </message>
     <message>
         <source>Normal Size</source>
-        <translation>Taille réelle</translation>
+        <translation>Taille normale</translation>
     </message>
     <message>
         <source>Fit in Window</source>
@@ -503,11 +503,11 @@
     </message>
     <message>
         <source>Show Demographics</source>
-        <translation>Afficher les textes</translation>
+        <translation>Afficher les données du patient</translation>
     </message>
     <message>
         <source>Hide Demographics</source>
-        <translation>Masquer les textes</translation>
+        <translation>Masquer les données du patient</translation>
     </message>
     <message>
         <source>Show Scale</source>
@@ -519,11 +519,11 @@
     </message>
     <message>
         <source>Show Overlays</source>
-        <translation>Afficher les overlays</translation>
+        <translation>Afficher les superpositions</translation>
     </message>
     <message>
         <source>Hide Overlays</source>
-        <translation>Masquer les overlays</translation>
+        <translation>Masquer les superpositions</translation>
     </message>
     <message>
         <source>Show Measurements</source>
@@ -535,15 +535,15 @@
     </message>
     <message>
         <source>Show US Regions</source>
-        <translation>Afficher les régions US</translation>
+        <translation>Afficher les régions échographiques</translation>
     </message>
     <message>
         <source>Hide US Regions</source>
-        <translation>Masquer les régions US</translation>
+        <translation>Masquer les régions échographiques</translation>
     </message>
     <message>
         <source>Play Cine</source>
-        <translation>Lire le ciné</translation>
+        <translation>Lancer le ciné</translation>
     </message>
     <message>
         <source>Stop Cine</source>
@@ -563,19 +563,19 @@
     </message>
     <message>
         <source>Stroke On</source>
-        <translation>Avec contour</translation>
+        <translation>Activer le contour</translation>
     </message>
     <message>
         <source>Stroke Off</source>
-        <translation>Sans contour</translation>
+        <translation>Désactiver le contour</translation>
     </message>
     <message>
         <source>Fill On</source>
-        <translation>Avec remplissage</translation>
+        <translation>Activer le remplissage</translation>
     </message>
     <message>
         <source>Fill Off</source>
-        <translation>Sans remplissage</translation>
+        <translation>Désactiver le remplissage</translation>
     </message>
     <message>
         <source>Show Label</source>
@@ -587,27 +587,27 @@
     </message>
     <message>
         <source>Shadow On</source>
-        <translation>Avec ombre</translation>
+        <translation>Activer l’ombre</translation>
     </message>
     <message>
         <source>Shadow Off</source>
-        <translation>Sans ombre</translation>
+        <translation>Désactiver l’ombre</translation>
     </message>
     <message>
         <source>Bring to Front</source>
-        <translation>Premier plan</translation>
+        <translation>Mettre au premier plan</translation>
     </message>
     <message>
         <source>Move Forward</source>
-        <translation>Avancer</translation>
+        <translation>Avancer d’un plan</translation>
     </message>
     <message>
         <source>Move Backwards</source>
-        <translation>Reculer</translation>
+        <translation>Reculer d’un plan</translation>
     </message>
     <message>
         <source>Send to Back</source>
-        <translation>Arrière-plan</translation>
+        <translation>Mettre à l’arrière-plan</translation>
     </message>
     <message>
         <source>Propagate Measurement</source>
@@ -623,11 +623,11 @@
     </message>
     <message>
         <source>Meas Contextual</source>
-        <translation>Mesure</translation>
+        <translation>Menu contextuel de la mesure</translation>
     </message>
     <message>
         <source>Grid Contextual</source>
-        <translation>Grille</translation>
+        <translation>Menu contextuel de la grille</translation>
     </message>
     <message>
         <source>Table #</source>
@@ -635,15 +635,15 @@
     </message>
     <message>
         <source>ww_bw</source>
-        <translation>L</translation>
+        <translation>W</translation>
     </message>
     <message>
         <source>wc_bw</source>
-        <translation>C</translation>
+        <translation>L</translation>
     </message>
     <message>
         <source>brightness_bw</source>
-        <translation>L</translation>
+        <translation>B</translation>
     </message>
     <message>
         <source>contrast_bw</source>
@@ -655,7 +655,7 @@
     </message>
     <message>
         <source>Image window level</source>
-        <translation>Centre de fenêtre</translation>
+        <translation>Niveau de fenêtre</translation>
     </message>
     <message>
         <source>Image brightness</source>
@@ -683,7 +683,7 @@
     </message>
     <message>
         <source>Adjust...</source>
-        <translation>Ajuster…</translation>
+        <translation>Ajuster...</translation>
     </message>
     <message>
         <source>Adjust</source>
@@ -699,7 +699,7 @@
     </message>
     <message>
         <source>Window Level</source>
-        <translation>Centre de fenêtre</translation>
+        <translation>Niveau de fenêtre</translation>
     </message>
     <message>
         <source>Brightness</source>
@@ -739,7 +739,7 @@
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>&amp;Édition</translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -767,7 +767,7 @@
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>Ai&amp;de</translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>Open...</source>
@@ -775,7 +775,7 @@
     </message>
     <message>
         <source>Open Recent</source>
-        <translation>Ouvrir récent</translation>
+        <translation>Ouvrir un élément récent</translation>
     </message>
     <message>
         <source>Export...</source>
@@ -803,7 +803,7 @@
     </message>
     <message>
         <source>Enter Full Screen</source>
-        <translation>Plein écran</translation>
+        <translation>Passer en plein écran</translation>
     </message>
     <message>
         <source>Exit Full Screen</source>
@@ -831,19 +831,19 @@
     </message>
     <message>
         <source>Show Study Info</source>
-        <translation>Afficher les infos de l’étude</translation>
+        <translation>Afficher les infos de l’examen</translation>
     </message>
     <message>
         <source>Hide Study Info</source>
-        <translation>Masquer les infos de l’étude</translation>
+        <translation>Masquer les infos de l’examen</translation>
     </message>
     <message>
         <source>Show Secondary Toolbar</source>
-        <translation>Afficher la seconde barre d’outils</translation>
+        <translation>Afficher la barre d’outils secondaire</translation>
     </message>
     <message>
         <source>Hide Secondary Toolbar</source>
-        <translation>Masquer la seconde barre d’outils</translation>
+        <translation>Masquer la barre d’outils secondaire</translation>
     </message>
     <message>
         <source>Show Measurement Pane</source>
@@ -863,11 +863,11 @@
     </message>
     <message>
         <source>Mark Current Sequence</source>
-        <translation>Marquer la séquence actuelle</translation>
+        <translation>Marquer la séquence active</translation>
     </message>
     <message>
         <source>Unmark Current Sequence</source>
-        <translation>Retirer la marque de la séquence actuelle</translation>
+        <translation>Démarquer la séquence active</translation>
     </message>
     <message>
         <source>Mark All</source>
@@ -875,11 +875,11 @@
     </message>
     <message>
         <source>Unmark All</source>
-        <translation>Retirer toutes les marques</translation>
+        <translation>Tout démarquer</translation>
     </message>
     <message>
         <source>Toggle Marked</source>
-        <translation>Inverser les marques</translation>
+        <translation>Inverser le marquage</translation>
     </message>
     <message>
         <source>Mark Selected</source>
@@ -887,31 +887,31 @@
     </message>
     <message>
         <source>Unmark Selected</source>
-        <translation>Retirer les marques de la sélection</translation>
+        <translation>Démarquer la sélection</translation>
     </message>
     <message>
         <source>Toggle Marked in Selection</source>
-        <translation>Inverser les marques de la sélection</translation>
+        <translation>Inverser le marquage de la sélection</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Tout rétablir</translation>
+        <translation>Tout réinitialiser</translation>
     </message>
     <message>
         <source>Reset Colors</source>
-        <translation>Rétablir les couleurs</translation>
+        <translation>Réinitialiser les couleurs</translation>
     </message>
     <message>
         <source>Reset Orientation</source>
-        <translation>Rétablir l’orientation</translation>
+        <translation>Réinitialiser l’orientation</translation>
     </message>
     <message>
         <source>Reset Position</source>
-        <translation>Rétablir la position</translation>
+        <translation>Réinitialiser la position</translation>
     </message>
     <message>
         <source>Reset Measurements</source>
-        <translation>Rétablir les mesures</translation>
+        <translation>Réinitialiser les mesures</translation>
     </message>
     <message>
         <source>Original Window</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>Clear Crop in All Series</source>
-        <translation>Supprimer le recadrage de toutes les séries</translation>
+        <translation>Effacer le recadrage de toutes les séries</translation>
     </message>
     <message>
         <source>No regions found</source>
@@ -971,11 +971,11 @@
     </message>
     <message>
         <source>Loop</source>
-        <translation>En boucle</translation>
+        <translation>Boucle</translation>
     </message>
     <message>
         <source>Sweep</source>
-        <translation>Aller et retour</translation>
+        <translation>Va-et-vient</translation>
     </message>
     <message>
         <source>Play Automatically</source>
@@ -1051,11 +1051,11 @@
     </message>
     <message>
         <source>Demographics</source>
-        <translation>Textes</translation>
+        <translation>Données du patient</translation>
     </message>
     <message>
         <source>Overlays</source>
-        <translation>Overlays</translation>
+        <translation>Superpositions</translation>
     </message>
     <message>
         <source>Measure</source>
@@ -1087,7 +1087,7 @@
     </message>
     <message>
         <source>Check for Updates...</source>
-        <translation>Rechercher des mises à jour…</translation>
+        <translation>Rechercher les mises à jour…</translation>
     </message>
     <message>
         <source>About</source>
@@ -1111,7 +1111,7 @@
     </message>
     <message>
         <source>Icon Only</source>
-        <translation>Images seules</translation>
+        <translation>Icônes seules</translation>
     </message>
     <message>
         <source>Thumbnail Size</source>
@@ -1122,11 +1122,11 @@
     <name>Measurements</name>
     <message>
         <source>kGlobalMeasPrefix</source>
-        <translation>Toutes les images : </translation>
+        <translation>Toutes les images : </translation>
     </message>
     <message>
         <source>kMeasDisplayTitle</source>
-        <translation>%1%2: %3</translation>
+        <translation>%1%2 : %3</translation>
     </message>
     <message>
         <source>kRegionUnitStr_none</source>
@@ -1226,7 +1226,7 @@
     </message>
     <message>
         <source>N/A</source>
-        <translation>n. d.</translation>
+        <translation>N/D</translation>
     </message>
     <message>
         <source>kRegionFormat_2D</source>
@@ -1234,7 +1234,7 @@
     </message>
     <message>
         <source>kRegionFormat_MMode</source>
-        <translation>M-Mode</translation>
+        <translation>Mode M</translation>
     </message>
     <message>
         <source>kRegionFormat_Spectral</source>
@@ -1246,7 +1246,7 @@
     </message>
     <message>
         <source>kRegionFormat_graphics</source>
-        <translation>Graphiques</translation>
+        <translation>Graphique</translation>
     </message>
     <message>
         <source>kRegionFormat_none</source>
@@ -1265,7 +1265,7 @@
     </message>
     <message>
         <source>AboutText</source>
-        <translation>Une visionneuse d’images DICOM. Ce n’est pas un dispositif médical : ne fondez pas un diagnostic sur elle seule.</translation>
+        <translation>Un visualiseur d’images DICOM. Ce n’est pas un dispositif médical : ne fondez pas un diagnostic sur lui seul.</translation>
     </message>
     <message>
         <source>Program Crash Report</source>
@@ -1308,7 +1308,7 @@
     </message>
     <message>
         <source>Presets title tip</source>
-        <translation>Double-cliquez sur une valeur pour la modifier ; faites glisser une ligne pour la déplacer</translation>
+        <translation>Double-cliquez sur une valeur pour la modifier ; faites glisser une ligne pour la déplacer</translation>
     </message>
     <message>
         <source>Updates</source>
@@ -1324,11 +1324,11 @@
     </message>
     <message>
         <source>First layout</source>
-        <translation>Première disposition</translation>
+        <translation>Disposition initiale</translation>
     </message>
     <message>
         <source>First layout tip</source>
-        <translation>Comment une fenêtre est partagée entre les séries à son ouverture</translation>
+        <translation>Répartition d’une fenêtre entre les séries à son ouverture</translation>
     </message>
     <message>
         <source>Automatic</source>
@@ -1344,7 +1344,7 @@
     </message>
     <message>
         <source>Scan subfolders tip</source>
-        <translation>Ouvre aussi ce qui se trouve dans les dossiers d’un dossier</translation>
+        <translation>Ouvre aussi le contenu des sous-dossiers d’un dossier</translation>
     </message>
     <message>
         <source>Ignore DICOMDIR</source>
@@ -1352,15 +1352,15 @@
     </message>
     <message>
         <source>Ignore DICOMDIR tip</source>
-        <translation>Lit les images d’un dossier elles-mêmes, même s’il en contient une liste</translation>
+        <translation>Lit directement les images d’un dossier, même s’il en contient une liste</translation>
     </message>
     <message>
         <source>Open discs</source>
-        <translation>Ouvrir les disques insérés</translation>
+        <translation>Ouvrir les disques à l’insertion</translation>
     </message>
     <message>
         <source>Open discs tip</source>
-        <translation>Ouvre un disque contenant un DICOMDIR dès qu’il est là</translation>
+        <translation>Ouvre un disque contenant un DICOMDIR dès qu’il est disponible</translation>
     </message>
     <message>
         <source>Copy from discs</source>
@@ -1368,7 +1368,7 @@
     </message>
     <message>
         <source>Copy from discs tip</source>
-        <translation>Le disque peut alors être retiré, et le défilement est plus rapide</translation>
+        <translation>Le disque peut ensuite être retiré, et le défilement est plus rapide</translation>
     </message>
     <message>
         <source>Copy from servers</source>
@@ -1384,15 +1384,15 @@
     </message>
     <message>
         <source>Open US and XA large tip</source>
-        <translation>L’échographie et l’angiographie ouvrent une série sur toute la fenêtre</translation>
+        <translation>L’échographie et l’angiographie ouvrent une seule série sur toute la fenêtre</translation>
     </message>
     <message>
         <source>Traverse marked</source>
-        <translation>Ne passer qu’aux séries marquées</translation>
+        <translation>Passer uniquement aux séries marquées</translation>
     </message>
     <message>
         <source>Traverse marked tip</source>
-        <translation>Quand le ciné parcourt toutes les séries, celles sans marque sont ignorées</translation>
+        <translation>Quand le ciné parcourt toutes les séries, celles qui ne sont pas marquées sont ignorées</translation>
     </message>
     <message>
         <source>Text and grids</source>
@@ -1404,7 +1404,7 @@
     </message>
     <message>
         <source>Text color tip</source>
-        <translation>Couleur du texte sur les images</translation>
+        <translation>Couleur du texte affiché sur les images</translation>
     </message>
     <message>
         <source>Active cell color</source>
@@ -1424,7 +1424,7 @@
     </message>
     <message>
         <source>Choose font tip</source>
-        <translation>Police et taille du texte sur les images</translation>
+        <translation>Police et taille du texte affiché sur les images</translation>
     </message>
     <message>
         <source>Font sample</source>
@@ -1456,7 +1456,7 @@
     </message>
     <message>
         <source>Merge US</source>
-        <translation>Réunir les images d’échographie isolées d’une série</translation>
+        <translation>Regrouper les images échographiques isolées d’une série</translation>
     </message>
     <message>
         <source>Merge US tip</source>
@@ -1464,7 +1464,7 @@
     </message>
     <message>
         <source>Merge XA</source>
-        <translation>Réunir les images d’angiographie isolées d’une série</translation>
+        <translation>Regrouper les images angiographiques isolées d’une série</translation>
     </message>
     <message>
         <source>Merge XA tip</source>
@@ -1476,7 +1476,7 @@
     </message>
     <message>
         <source>Decode character sets tip</source>
-        <translation>Désactivé : texte tel que lu par d’anciens programmes ; à partir de la prochaine ouverture</translation>
+        <translation>Désactivé : texte lu comme dans les anciens programmes ; à partir de la prochaine ouverture</translation>
     </message>
     <message>
         <source>Enhance contrast</source>
@@ -1484,7 +1484,7 @@
     </message>
     <message>
         <source>Enhance contrast tip</source>
-        <translation>Désactivé : fenêtrage selon la seule formule du standard</translation>
+        <translation>Désactivé : fenêtrage selon la seule formule de la norme</translation>
     </message>
     <message>
         <source>Localizers</source>
@@ -1496,15 +1496,15 @@
     </message>
     <message>
         <source>First and last localizers tip</source>
-        <translation>Outre la ligne de l’image affichée, où la série commence et finit sur les autres grilles</translation>
+        <translation>En plus de la ligne de l’image affichée, là où la série commence et finit sur les autres grilles</translation>
     </message>
     <message>
         <source>Separate localizers</source>
-        <translation>Garder les localisateurs à part</translation>
+        <translation>Séparer les localisateurs</translation>
     </message>
     <message>
         <source>Separate localizers tip</source>
-        <translation>Les localisateurs ont leur propre séquence ; à partir de la prochaine ouverture</translation>
+        <translation>Les images de localisateur forment une séquence à part ; à partir de la prochaine ouverture</translation>
     </message>
     <message>
         <source>Colors over images</source>
@@ -1512,11 +1512,11 @@
     </message>
     <message>
         <source>Overlay color</source>
-        <translation>Overlays</translation>
+        <translation>Superpositions</translation>
     </message>
     <message>
         <source>Overlay color tip</source>
-        <translation>Couleur des overlays fournis par le fichier</translation>
+        <translation>Couleur des superpositions contenues dans le fichier</translation>
     </message>
     <message>
         <source>US region color</source>
@@ -1524,15 +1524,15 @@
     </message>
     <message>
         <source>US region color tip</source>
-        <translation>Couleur des cadres des régions échographiques</translation>
+        <translation>Couleur des cadres autour des régions échographiques</translation>
     </message>
     <message>
         <source>Localizer color</source>
-        <translation>Lignes de référence</translation>
+        <translation>Lignes des localisateurs</translation>
     </message>
     <message>
         <source>Localizer color tip</source>
-        <translation>Couleur des lignes de référence</translation>
+        <translation>Couleur des lignes des localisateurs</translation>
     </message>
     <message>
         <source>Cine</source>
@@ -1540,11 +1540,11 @@
     </message>
     <message>
         <source>Cine autoplay</source>
-        <translation>Lire aussitôt</translation>
+        <translation>Lire immédiatement</translation>
     </message>
     <message>
         <source>Cine autoplay tip</source>
-        <translation>Le ciné démarre quand apparaît une série habituellement lue</translation>
+        <translation>Le ciné démarre à l’affichage d’une série habituellement lue en ciné</translation>
     </message>
     <message>
         <source>Enforce speed</source>
@@ -1552,7 +1552,7 @@
     </message>
     <message>
         <source>Enforce speed tip</source>
-        <translation>Lit à la vitesse par défaut, quoi que dise le fichier</translation>
+        <translation>Lit à la vitesse par défaut, quoi qu’indique le fichier</translation>
     </message>
     <message>
         <source>Default speed</source>
@@ -1572,7 +1572,7 @@
     </message>
     <message>
         <source>wcPreset</source>
-        <translation>Centre</translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>wcPreset tip</source>
@@ -1608,7 +1608,7 @@
     </message>
     <message>
         <source>Move up tip</source>
-        <translation>Monte le préréglage sélectionné (Alt+Haut)</translation>
+        <translation>Déplace le préréglage sélectionné vers le haut (Alt+Haut)</translation>
     </message>
     <message>
         <source>Move down</source>
@@ -1616,11 +1616,11 @@
     </message>
     <message>
         <source>Move down tip</source>
-        <translation>Descend le préréglage sélectionné (Alt+Bas)</translation>
+        <translation>Déplace le préréglage sélectionné vers le bas (Alt+Bas)</translation>
     </message>
     <message>
         <source>Reset presets</source>
-        <translation>Rétablir…</translation>
+        <translation>Réinitialiser…</translation>
     </message>
     <message>
         <source>Reset presets tip</source>
@@ -1628,7 +1628,7 @@
     </message>
     <message>
         <source>Check now</source>
-        <translation>Rechercher maintenant</translation>
+        <translation>Vérifier maintenant</translation>
     </message>
     <message>
         <source>Check now tip</source>
@@ -1636,7 +1636,7 @@
     </message>
     <message>
         <source>No update service</source>
-        <translation>Cette copie du programme ne cherche pas elle-même de mises à jour. Les nouvelles versions arrivent comme celle-ci est arrivée.</translation>
+        <translation>Cette copie du programme ne recherche pas elle-même les mises à jour. Les nouvelles versions arrivent de la même façon que celle-ci.</translation>
     </message>
 </context>
 <context>
@@ -1651,23 +1651,23 @@
     </message>
     <message>
         <source>Reset all settings</source>
-        <translation>Rétablir tous les réglages</translation>
+        <translation>Réinitialiser tous les réglages</translation>
     </message>
     <message>
         <source>ResetExplain</source>
-        <translation>Tous les réglages redeviennent ceux d’une nouvelle installation, et le programme redémarre. Une copie des réglages est conservée à côté.</translation>
+        <translation>Tous les réglages reprennent leur état d’une nouvelle installation, et le programme redémarre. Une copie des réglages est conservée à côté.</translation>
     </message>
     <message>
         <source>Collect crash reports</source>
-        <translation>Réunir les rapports de plantage</translation>
+        <translation>Recueillir les rapports de plantage</translation>
     </message>
     <message>
         <source>LogsExplain</source>
-        <translation>Les rapports de plantage sont réunis pour que vous les lisiez, et envoyés par votre messagerie seulement si vous êtes d’accord.</translation>
+        <translation>Les rapports de plantage sont réunis pour que vous puissiez les lire, et envoyés par votre logiciel de messagerie seulement si vous l’acceptez.</translation>
     </message>
     <message>
         <source>UserText</source>
-        <translation>Que faisiez-vous quand cela s’est produit ?</translation>
+        <translation>Que faisiez-vous quand cela s’est produit ?</translation>
     </message>
     <message>
         <source>Remove older reports afterwards</source>
@@ -1675,11 +1675,11 @@
     </message>
     <message>
         <source>ClearLogsTip</source>
-        <translation>Seul le dernier rapport de chaque sorte est conservé</translation>
+        <translation>Seul le dernier rapport de chaque type est conservé</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation>Rechercher des mises à jour</translation>
+        <translation>Rechercher les mises à jour</translation>
     </message>
     <message>
         <source>No update service</source>
@@ -1687,11 +1687,11 @@
     </message>
     <message>
         <source>Reset</source>
-        <translation>Rétablir</translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Collect</source>
-        <translation>Réunir</translation>
+        <translation>Recueillir</translation>
     </message>
     <message>
         <source>Review</source>
@@ -1699,19 +1699,19 @@
     </message>
     <message>
         <source>ReviewExplain</source>
-        <translation>C’est tout ce qui quitte cet ordinateur. Ce qui peut désigner un patient ou vous-même est surligné : rayez-le ou modifiez le texte.</translation>
+        <translation>C’est tout ce qui quitte cet ordinateur. Ce qui pourrait désigner un patient ou vous-même est marqué : biffez-le ou modifiez le texte.</translation>
     </message>
     <message>
         <source>Strike all marked</source>
-        <translation>Rayer tout ce qui est surligné</translation>
+        <translation>Biffer tout ce qui est marqué</translation>
     </message>
     <message>
         <source>Strike selected</source>
-        <translation>Rayer la sélection</translation>
+        <translation>Biffer la sélection</translation>
     </message>
     <message>
         <source>Next marked</source>
-        <translation>Surlignage suivant</translation>
+        <translation>Marque suivante</translation>
     </message>
     <message>
         <source>Send</source>
@@ -1730,7 +1730,7 @@
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom :</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1738,11 +1738,11 @@
     </message>
     <message>
         <source>Choose a file or a folder to open</source>
-        <translation>Choisir un fichier ou un dossier à ouvrir</translation>
+        <translation>Choisissez un fichier ou un dossier à ouvrir</translation>
     </message>
     <message>
         <source>Drop files, folders or a DICOMDIR here, or choose them:</source>
-        <translation>Déposez ici des fichiers, des dossiers ou un DICOMDIR, ou choisissez-les :</translation>
+        <translation>Déposez ici des fichiers, des dossiers ou un DICOMDIR, ou choisissez-les :</translation>
     </message>
     <message>
         <source>Frame %1 of %2</source>
@@ -1750,7 +1750,7 @@
     </message>
     <message>
         <source>Frame shown, and how many there are</source>
-        <translation>Image affichée, et leur nombre</translation>
+        <translation>Image affichée et nombre total d’images</translation>
     </message>
     <message>
         <source>Include &amp;subfolders</source>
@@ -1770,11 +1770,11 @@
     </message>
     <message>
         <source>Search the folder for images even if a DICOMDIR lists them</source>
-        <translation>Chercher des images dans le dossier même si un DICOMDIR les cite</translation>
+        <translation>Rechercher des images dans le dossier même si un DICOMDIR les répertorie</translation>
     </message>
     <message>
         <source>Search the folders in the chosen folder too</source>
-        <translation>Chercher aussi dans les dossiers du dossier choisi</translation>
+        <translation>Rechercher aussi dans les sous-dossiers du dossier choisi</translation>
     </message>
     <message>
         <source>Stop opening (Escape)</source>
@@ -1782,23 +1782,23 @@
     </message>
     <message>
         <source>There are no frames to show</source>
-        <translation>Il n’y a pas d’image à afficher</translation>
+        <translation>Aucune image à afficher</translation>
     </message>
     <message>
         <source>This frame can't be shown</source>
-        <translation>Cette image ne peut pas être affichée</translation>
+        <translation>Impossible d’afficher cette image</translation>
     </message>
     <message>
         <source>What was open lately</source>
-        <translation>Ce qui a été ouvert récemment</translation>
+        <translation>Éléments ouverts récemment</translation>
     </message>
     <message>
         <source>Window %1, level %2</source>
-        <translation>Fenêtre %1, centre %2</translation>
+        <translation>Fenêtre %1, niveau %2</translation>
     </message>
     <message>
         <source>Window width and level of this frame</source>
-        <translation>Largeur et centre de fenêtre de cette image</translation>
+        <translation>Largeur et niveau de fenêtre de cette image</translation>
     </message>
 </context>
 <context>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>Pregnancy Status</source>
-        <translation>Grossesse</translation>
+        <translation>État de grossesse</translation>
     </message>
     <message>
         <source>Comments</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Study</source>
-        <translation>Étude</translation>
+        <translation>Examen</translation>
     </message>
     <message>
         <source>Description</source>
@@ -1865,19 +1865,19 @@
     </message>
     <message>
         <source>Study ID</source>
-        <translation>ID de l’étude</translation>
+        <translation>ID de l’examen</translation>
     </message>
     <message>
         <source>Accession Number</source>
-        <translation>Numéro d’accès</translation>
+        <translation>Numéro d’accession</translation>
     </message>
     <message>
         <source>Referring Physician</source>
-        <translation>Médecin prescripteur</translation>
+        <translation>Médecin référent</translation>
     </message>
     <message>
         <source>Reading Physician</source>
-        <translation>Médecin lecteur</translation>
+        <translation>Médecin interprétant</translation>
     </message>
     <message>
         <source>Series</source>
@@ -1909,7 +1909,7 @@
     </message>
     <message>
         <source>Performing Physician</source>
-        <translation>Médecin réalisateur</translation>
+        <translation>Médecin exécutant</translation>
     </message>
     <message>
         <source>Operator</source>
@@ -1949,15 +1949,15 @@
     </message>
     <message>
         <source>Contrast</source>
-        <translation>Contraste</translation>
+        <translation>Produit de contraste</translation>
     </message>
     <message>
         <source>Agent</source>
-        <translation>Produit</translation>
+        <translation>Agent</translation>
     </message>
     <message>
         <source>Route</source>
-        <translation>Voie</translation>
+        <translation>Voie d’administration</translation>
     </message>
     <message>
         <source>Volume (ml)</source>
@@ -1969,7 +1969,7 @@
     </message>
     <message>
         <source>Ingredient</source>
-        <translation>Composant</translation>
+        <translation>Principe actif</translation>
     </message>
     <message>
         <source>Image</source>
@@ -2117,7 +2117,7 @@
     </message>
     <message>
         <source>Body Part Thickness (mm)</source>
-        <translation>Épaisseur (mm)</translation>
+        <translation>Épaisseur de la partie du corps (mm)</translation>
     </message>
     <message>
         <source>Compression Force (N)</source>
@@ -2165,11 +2165,11 @@
     </message>
     <message>
         <source>Rescale Intercept</source>
-        <translation>Ordonnée à l’origine</translation>
+        <translation>Ordonnée de mise à l’échelle</translation>
     </message>
     <message>
         <source>Rescale Slope</source>
-        <translation>Pente</translation>
+        <translation>Pente de mise à l’échelle</translation>
     </message>
     <message>
         <source>MR</source>
@@ -2193,7 +2193,7 @@
     </message>
     <message>
         <source>Field Strength (T)</source>
-        <translation>Champ magnétique (T)</translation>
+        <translation>Intensité du champ (T)</translation>
     </message>
     <message>
         <source>Repetition Time (ms)</source>
@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Stage</source>
-        <translation>Phase</translation>
+        <translation>Étape</translation>
     </message>
     <message>
         <source>View</source>
@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>Frame Time (ms)</source>
-        <translation>Durée d’image (ms)</translation>
+        <translation>Intervalle entre images (ms)</translation>
     </message>
     <message>
         <source>Cine Rate (1/s)</source>
@@ -2269,11 +2269,11 @@
     </message>
     <message>
         <source>Thermal Index Soft Tissue</source>
-        <translation>Indice thermique tissus mous</translation>
+        <translation>Indice thermique des tissus mous</translation>
     </message>
     <message>
         <source>Depth of Scan Field (mm)</source>
-        <translation>Profondeur de champ (mm)</translation>
+        <translation>Profondeur du champ (mm)</translation>
     </message>
     <message>
         <source>Nuclear Medicine and PET</source>
@@ -2297,7 +2297,7 @@
     </message>
     <message>
         <source>Frame Duration (ms)</source>
-        <translation>Durée de l’image (ms)</translation>
+        <translation>Durée d’image (ms)</translation>
     </message>
     <message>
         <source>Reconstruction Method</source>

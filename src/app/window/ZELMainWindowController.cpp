@@ -196,8 +196,11 @@ void ZELMainWindowController::onPainted()
     if (!_wholly && _whenPainted)
         std::exchange(_whenPainted, nullptr)();
     updateToolbarElements();
-    if (_pane->layoutView()->showsAll() && !std::exchange(_showsAll, true))
+    if (_pane->layoutView()->showsAll() && !std::exchange(_showsAll, true)) {
+        _fastPatientListStartON = false;
+        _patients->fillSlowTexts();
         _patients->holdWork(false);
+    }
     if (wholly && _whenPainted)
         std::exchange(_whenPainted, nullptr)();
 }
@@ -214,8 +217,6 @@ void ZELMainWindowController::bringToFront()
 void ZELMainWindowController::setZelWindowIsReady()
 {
     _zelWindowIsReady = true;
-    if (std::exchange(_fastPatientListStartON, false))
-        _patients->fillSlowTexts();
     _pane->view()->becomeFirstResponder();
 }
 

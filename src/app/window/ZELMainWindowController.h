@@ -36,7 +36,7 @@ public:
     [[nodiscard]] const ZELRecentDocument& windowDoc() const { return _windowDoc; }
     [[nodiscard]] ZELDcmTree& imagesDB() const { return *_imagesDB; }
     void bringToFront();
-    // The open has ended: slow texts of the list come in, keys go to the active grid.
+    // The open has ended: keys go to the active grid.
     void setZelWindowIsReady();
     // From now on the window changes nothing any more, and plays nothing.
     void setWindowClosing();
