@@ -4,7 +4,6 @@
 #include "app/recovery/ReportReviewWindow.h"
 #include "app/recovery/ZELFirstAidWindowController.h"
 #include "app/shell/OpenPanel.h"
-#include "app/shell/StartWindow.h"
 #include "app/shell/ZELAppDelegate.h"
 #include "app/window/ZELMainWindowController.h"
 #include "app_prefs/PrefsWindow.h"
@@ -14,9 +13,15 @@
 #include "platform/PreferenceStore.h"
 #include "prefs/Prefs.h"
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QTest>
 #include <filesystem>
@@ -43,12 +48,35 @@ QPalette DarkPalette()
     return dark;
 }
 
+// For those who can't see it: what a reader of the screen would say.
+void ExpectNames(const QWidget* window)
+{
+    for (QWidget* widget : window->findChildren<QWidget*>()) {
+        const bool speaks =
+            qobject_cast<QAbstractButton*>(widget) || qobject_cast<QLineEdit*>(widget) ||
+            qobject_cast<QPlainTextEdit*>(widget) || qobject_cast<QComboBox*>(widget) ||
+            qobject_cast<QAbstractItemView*>(widget);
+        const bool internal = widget->objectName().startsWith(QLatin1String("qt_")) ||
+                              widget->inherits("QHeaderView") ||
+                              widget->inherits("QTableCornerButton");
+        if (!speaks || internal || !widget->isVisible())
+            continue;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_TRUE(face);
+        EXPECT_FALSE(face->text(QAccessible::Name).isEmpty())
+            << widget->metaObject()->className() << " in "
+            << widget->parentWidget()->metaObject()->className();
+    }
+}
+
 class Pictures {
 public:
     explicit Pictures(QString look) : fLook(std::move(look)) {}
     void Take(QWidget* widget, const char* name)
     {
         QTest::qWait(30);
+        if (!dynamic_cast<OpenPanel*>(widget))  // the toolkit's own
+            ExpectNames(widget);
         const QImage picture = widget->grab().toImage();
         std::set<QRgb> colors;
         for (int y = 0; y < picture.height(); ++y)
