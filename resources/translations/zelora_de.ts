@@ -1117,6 +1117,62 @@
         <source>Thumbnail Size</source>
         <translation>Größe der Vorschaubilder</translation>
     </message>
+    <message>
+        <source>Customize Toolbar...</source>
+        <translation>Symbolleiste anpassen …</translation>
+    </message>
+    <message>
+        <source>Customize Toolbar</source>
+        <translation>Symbolleiste anpassen</translation>
+    </message>
+    <message>
+        <source>Available Items</source>
+        <translation>Verfügbare Elemente</translation>
+    </message>
+    <message>
+        <source>Add Item</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove Item</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Move Item Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Item Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Restore Default Items</source>
+        <translation>Standard wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Previous and Next Series</source>
+        <translation>Vorherige und nächste Serie</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Rotate and Flip</source>
+        <translation>Drehen und spiegeln</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Trennlinie</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Flexible Space</source>
+        <translation>Flexibler Abstand</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>
@@ -1699,7 +1755,7 @@
     </message>
     <message>
         <source>ReviewExplain</source>
-        <translation>Das ist alles, was diesen Rechner verlässt. Was auf einen Patienten oder auf Sie deuten kann, ist hervorgehoben: Streichen Sie es, oder ändern Sie den Text.</translation>
+        <translation>Das ist alles, was diesen Rechner verlässt. Was auf einen Patienten oder auf Sie deuten kann, ist hervorgehoben: Streichen Sie es, und was Sie sonst noch auswählen.</translation>
     </message>
     <message>
         <source>Strike all marked</source>
@@ -1716,6 +1772,14 @@
     <message>
         <source>Send</source>
         <translation>Senden</translation>
+    </message>
+    <message>
+        <source>NotSent</source>
+        <translation>Kein Mailprogramm hat den Bericht angenommen.</translation>
+    </message>
+    <message>
+        <source>NotSentExplain</source>
+        <translation>Bitte senden Sie ihn selbst an %1. Die Berichte liegen im Ordner %2.</translation>
     </message>
 </context>
 <context>

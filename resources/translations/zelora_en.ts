@@ -1154,6 +1154,62 @@
         <source>Thumbnail Size</source>
         <translation>Thumbnail Size</translation>
     </message>
+    <message>
+        <source>Customize Toolbar...</source>
+        <translation>Customize Toolbar…</translation>
+    </message>
+    <message>
+        <source>Customize Toolbar</source>
+        <translation>Customize Toolbar</translation>
+    </message>
+    <message>
+        <source>Available Items</source>
+        <translation>Available Items</translation>
+    </message>
+    <message>
+        <source>Add Item</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Remove Item</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Move Item Up</source>
+        <translation>Move Up</translation>
+    </message>
+    <message>
+        <source>Move Item Down</source>
+        <translation>Move Down</translation>
+    </message>
+    <message>
+        <source>Restore Default Items</source>
+        <translation>Restore Defaults</translation>
+    </message>
+    <message>
+        <source>Previous and Next Series</source>
+        <translation>Previous and Next Series</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>Rotate and Flip</source>
+        <translation>Rotate and Flip</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separator</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Flexible Space</source>
+        <translation>Flexible Space</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>
@@ -1740,7 +1796,7 @@
     </message>
     <message>
         <source>ReviewExplain</source>
-        <translation>This is all that leaves this computer. What may point to a patient or to you is marked: strike it, or change the text.</translation>
+        <translation>This is all that leaves this computer. What may point to a patient or to you is marked: strike it, and whatever else you select.</translation>
     </message>
     <message>
         <source>Strike all marked</source>
@@ -1757,6 +1813,14 @@
     <message>
         <source>Send</source>
         <translation>Send</translation>
+    </message>
+    <message>
+        <source>NotSent</source>
+        <translation>No mail program took the report.</translation>
+    </message>
+    <message>
+        <source>NotSentExplain</source>
+        <translation>Please send it to %1 yourself. The reports are kept in the folder %2.</translation>
     </message>
 </context>
 <context>

@@ -1117,6 +1117,62 @@
         <source>Thumbnail Size</source>
         <translation>Tamaño de las miniaturas</translation>
     </message>
+    <message>
+        <source>Customize Toolbar...</source>
+        <translation>Personalizar la barra de herramientas…</translation>
+    </message>
+    <message>
+        <source>Customize Toolbar</source>
+        <translation>Personalizar la barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Available Items</source>
+        <translation>Elementos disponibles</translation>
+    </message>
+    <message>
+        <source>Add Item</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Remove Item</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Move Item Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move Item Down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Restore Default Items</source>
+        <translation>Restaurar los predeterminados</translation>
+    </message>
+    <message>
+        <source>Previous and Next Series</source>
+        <translation>Serie anterior y siguiente</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Herramientas</translation>
+    </message>
+    <message>
+        <source>Rotate and Flip</source>
+        <translation>Girar y voltear</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separador</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>Flexible Space</source>
+        <translation>Espacio flexible</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>
@@ -1699,7 +1755,7 @@
     </message>
     <message>
         <source>ReviewExplain</source>
-        <translation>Esto es todo lo que sale de este equipo. Lo que puede señalar a un paciente o a usted está resaltado: táchelo o cambie el texto.</translation>
+        <translation>Esto es todo lo que sale de este equipo. Lo que puede señalar a un paciente o a usted está resaltado: táchelo, y cualquier otra parte que seleccione.</translation>
     </message>
     <message>
         <source>Strike all marked</source>
@@ -1716,6 +1772,14 @@
     <message>
         <source>Send</source>
         <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>NotSent</source>
+        <translation>Ningún programa de correo aceptó el informe.</translation>
+    </message>
+    <message>
+        <source>NotSentExplain</source>
+        <translation>Envíelo usted mismo a %1. Los informes están en la carpeta %2.</translation>
     </message>
 </context>
 <context>

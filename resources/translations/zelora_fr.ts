@@ -1117,6 +1117,62 @@
         <source>Thumbnail Size</source>
         <translation>Taille des vignettes</translation>
     </message>
+    <message>
+        <source>Customize Toolbar...</source>
+        <translation>Personnaliser la barre d’outils…</translation>
+    </message>
+    <message>
+        <source>Customize Toolbar</source>
+        <translation>Personnaliser la barre d’outils</translation>
+    </message>
+    <message>
+        <source>Available Items</source>
+        <translation>Éléments disponibles</translation>
+    </message>
+    <message>
+        <source>Add Item</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Remove Item</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Move Item Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Item Down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Restore Default Items</source>
+        <translation>Rétablir les réglages par défaut</translation>
+    </message>
+    <message>
+        <source>Previous and Next Series</source>
+        <translation>Série précédente et suivante</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Rotate and Flip</source>
+        <translation>Pivoter et retourner</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Séparateur</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Flexible Space</source>
+        <translation>Espace flexible</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>
@@ -1699,7 +1755,7 @@
     </message>
     <message>
         <source>ReviewExplain</source>
-        <translation>C’est tout ce qui quitte cet ordinateur. Ce qui pourrait désigner un patient ou vous-même est marqué : biffez-le ou modifiez le texte.</translation>
+        <translation>C’est tout ce qui quitte cet ordinateur. Ce qui pourrait désigner un patient ou vous-même est marqué : biffez-le, ainsi que tout ce que vous sélectionnez.</translation>
     </message>
     <message>
         <source>Strike all marked</source>
@@ -1716,6 +1772,14 @@
     <message>
         <source>Send</source>
         <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>NotSent</source>
+        <translation>Aucun programme de messagerie n’a accepté le rapport.</translation>
+    </message>
+    <message>
+        <source>NotSentExplain</source>
+        <translation>Veuillez l’envoyer vous-même à %1. Les rapports se trouvent dans le dossier %2.</translation>
     </message>
 </context>
 <context>

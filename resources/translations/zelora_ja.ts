@@ -1117,6 +1117,62 @@
         <source>Thumbnail Size</source>
         <translation>サムネイルの大きさ</translation>
     </message>
+    <message>
+        <source>Customize Toolbar...</source>
+        <translation>ツールバーをカスタマイズ…</translation>
+    </message>
+    <message>
+        <source>Customize Toolbar</source>
+        <translation>ツールバーをカスタマイズ</translation>
+    </message>
+    <message>
+        <source>Available Items</source>
+        <translation>使用できる項目</translation>
+    </message>
+    <message>
+        <source>Add Item</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Remove Item</source>
+        <translation>取り除く</translation>
+    </message>
+    <message>
+        <source>Move Item Up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Move Item Down</source>
+        <translation>下へ</translation>
+    </message>
+    <message>
+        <source>Restore Default Items</source>
+        <translation>デフォルトに戻す</translation>
+    </message>
+    <message>
+        <source>Previous and Next Series</source>
+        <translation>前/次のシリーズ</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>ツール</translation>
+    </message>
+    <message>
+        <source>Rotate and Flip</source>
+        <translation>回転と反転</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>区切り線</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>スペース</translation>
+    </message>
+    <message>
+        <source>Flexible Space</source>
+        <translation>可変スペース</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>
@@ -1699,7 +1755,7 @@
     </message>
     <message>
         <source>ReviewExplain</source>
-        <translation>このコンピュータから出るのはこれですべてです。患者やあなたを示しうる部分に印が付いています。消すか、文を変えてください。</translation>
+        <translation>このコンピュータから出るのはこれですべてです。患者やあなたを示しうる部分に印が付いています。その部分や、ほかに選択した部分を消してください。</translation>
     </message>
     <message>
         <source>Strike all marked</source>
@@ -1716,6 +1772,14 @@
     <message>
         <source>Send</source>
         <translation>送信</translation>
+    </message>
+    <message>
+        <source>NotSent</source>
+        <translation>レポートを受け取るメールプログラムがありませんでした。</translation>
+    </message>
+    <message>
+        <source>NotSentExplain</source>
+        <translation>%1 宛てにご自身でお送りください。レポートはフォルダ %2 にあります。</translation>
     </message>
 </context>
 <context>

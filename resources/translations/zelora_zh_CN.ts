@@ -1117,6 +1117,62 @@
         <source>Thumbnail Size</source>
         <translation>缩略图大小</translation>
     </message>
+    <message>
+        <source>Customize Toolbar...</source>
+        <translation>自定工具栏…</translation>
+    </message>
+    <message>
+        <source>Customize Toolbar</source>
+        <translation>自定工具栏</translation>
+    </message>
+    <message>
+        <source>Available Items</source>
+        <translation>可用项目</translation>
+    </message>
+    <message>
+        <source>Add Item</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove Item</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Move Item Up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move Item Down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Restore Default Items</source>
+        <translation>恢复默认</translation>
+    </message>
+    <message>
+        <source>Previous and Next Series</source>
+        <translation>上一个和下一个序列</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Rotate and Flip</source>
+        <translation>旋转和翻转</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>分隔线</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>Flexible Space</source>
+        <translation>弹性空白</translation>
+    </message>
 </context>
 <context>
     <name>Measurements</name>
@@ -1699,7 +1755,7 @@
     </message>
     <message>
         <source>ReviewExplain</source>
-        <translation>离开本机的内容全部在此。可能指向患者或您本人的部分已标出：请将其删去，或修改文本。</translation>
+        <translation>离开本机的内容全部在此。可能指向患者或您本人的部分已标出：请将其删去，也可删去您选中的其他内容。</translation>
     </message>
     <message>
         <source>Strike all marked</source>
@@ -1716,6 +1772,14 @@
     <message>
         <source>Send</source>
         <translation>发送</translation>
+    </message>
+    <message>
+        <source>NotSent</source>
+        <translation>没有邮件程序接收该报告。</translation>
+    </message>
+    <message>
+        <source>NotSentExplain</source>
+        <translation>请自行发送至 %1。报告保存在文件夹 %2 中。</translation>
     </message>
 </context>
 <context>

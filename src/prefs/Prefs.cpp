@@ -128,6 +128,23 @@ void prefs_Set_MainWindowGeometry(const QByteArray& geometry)
 {
     Store("ZELMainWindowGeometry", geometry);
 }
+std::vector<std::string> prefs_ToolbarItems()
+{
+    std::vector<std::string> names;
+    for (const QVariant& name : prefs_Store().Array("ZELToolbarItems"))
+        names.push_back(name.toString().toStdString());
+    return names;
+}
+void prefs_Set_ToolbarItems(const std::vector<std::string>& names)
+{
+    QVariantList list;
+    for (const std::string& name : names)
+        list.append(QString::fromStdString(name));
+    if (list.isEmpty())
+        prefs_Store().Remove("ZELToolbarItems");
+    else
+        Store("ZELToolbarItems", list);
+}
 bool prefs_Get_ShowsUSRegions() { return ReadBool("ShowUSRegionsFlag"); }
 void prefs_Set_ShowsUSRegions(bool on) { Store("ShowUSRegionsFlag", on); }
 

@@ -106,6 +106,9 @@ void prefs_Set_PatientViewSplitSizes(const std::vector<int>& sizes);
 // Place and size of the window that was closed last, as the toolkit codes them.
 [[nodiscard]] QByteArray prefs_MainWindowGeometry();
 void prefs_Set_MainWindowGeometry(const QByteArray& geometry);
+// Names of what stands in a window's tool bar, in order; empty for the program's own choice.
+[[nodiscard]] std::vector<std::string> prefs_ToolbarItems();
+void prefs_Set_ToolbarItems(const std::vector<std::string>& names);
 [[nodiscard]] bool prefs_Get_ShowsUSRegions();
 void prefs_Set_ShowsUSRegions(bool on);
 // The key of the user's window presets, an array; absent means those that come with the program.

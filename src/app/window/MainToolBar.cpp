@@ -1,12 +1,13 @@
 #include "app/window/MainToolBar.h"
 
 #include "app/tools/GridMenuItems.h"
-#include "app/tools/TargetWatch.h"
 #include "app/views/LayoutIcons.h"
 #include "app/views/MenuFromEntries.h"
+#include "app/window/ToolBarItems.h"
 #include "app/window/ToolIcons.h"
 #include "platform/Words.h"
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QToolButton>
@@ -16,89 +17,10 @@ namespace {
 using W = WindowCommand;
 using G = GridCommand;
 using Mark = WindowCommandState::Mark;
-using T = WindowTarget;
+
+constexpr int kSpaceWidth = 12;  // view points
 
 QString Word(const char* key) { return ZelWord(kWordsMenuItems, key); }
-
-// ---- what is on, of commands whose menu entries have another title then ----
-
-template <bool (ZELSequenceProxy::*Question)() const>
-bool Is(const T& t)
-{
-    const ZELSequenceProxy* proxy = TargetWatch::SequenceOf(*t.host);
-    return proxy && (proxy->*Question)();
-}
-
-bool ShowsOverlays(const T& t)
-{
-    return Is<&ZELSequenceProxy::hasDicomOverlays>(t) &&
-           Is<&ZELSequenceProxy::viewShowsDicomOverlays>(t);
-}
-
-bool ShowsLines(const T& t)
-{
-    return t.panes->multiGridController().localizers().toolbarSegment().on;
-}
-bool IsPlaying(const T& t)
-{
-    const auto* grid = t.host->activeSequenceGridController();
-    return grid && grid->cineModeIsON();
-}
-bool ShowsMeasurements(const T& t) { return t.panes->showsMeasurementInfoBox(); }
-
-// One item of the bar, which may have several buttons; an empty one is a separator.
-struct Item {
-    const char* name;
-    struct Button {
-        AnyCommand command;
-        const char* icon;
-        const char* menuForm = nullptr;  // its title where the bar is too narrow for its picture
-        bool (*isOn)(const T&) = nullptr;
-    };
-    std::vector<Button> buttons;
-};
-
-const std::vector<Item>& Items()
-{
-    static const std::vector<Item> kItems = {
-        {"ResetTBItem", {}},
-        {"SequenceTB",
-         {{{G::PreviousSequence}, "tool_previous"}, {{G::NextSequence}, "tool_next"}}},
-        {},
-        {"LayoutTB", {}},
-        {"ScopeTB",
-         {{{W::ChangeToolScope, ToolScope::kTagFrame}, "tool_scope_frame"},
-          {{W::ChangeToolScope, ToolScope::kTagSequence}, "tool_scope_sequence"}}},
-        {},
-        {"ToolsGroupTBItem",
-         {{{W::SelectTool, kToolSelection}, "tool_select"},
-          {{W::SelectTool, kToolZoom}, "tool_zoom"},
-          {{W::SelectTool, kToolPan}, "tool_pan"},
-          {{W::SelectTool, kToolWindow}, "tool_window"},
-          {{W::SelectTool, kToolCrop}, "tool_crop"}}},
-        {},
-        {"InvertTB",
-         {{{G::Invert}, "tool_invert", nullptr, Is<&ZELSequenceProxy::currentFrameIsInverted>}}},
-        {"RotateFlipTB",
-         {{{G::RotateLeft}, "tool_rotate_left"},
-          {{G::RotateRight}, "tool_rotate_right"},
-          {{G::FlipHorizontal}, "tool_flip_horizontal"},
-          {{G::FlipVertical}, "tool_flip_vertical"}}},
-        {},
-        {"DemographicsTB",
-         {{{G::SwitchDemographics},
-           "tool_demographics",
-           "Demographics",
-           Is<&ZELSequenceProxy::viewShowsDemographics>}}},
-        {"OverlaysTB", {{{G::SwitchOverlays}, "tool_overlays", "Overlays", ShowsOverlays}}},
-        {"LocalizersTB", {{{W::ReferenceLines}, "tool_localizers", "Reference Lines", ShowsLines}}},
-        {},
-        {"CineTB", {Item::Button{{G::PlayCine}, "tool_cine", "Play Cine", IsPlaying}}},
-        {"FlexibleSpace", {}},
-        {"MeasureTB", {{{W::MeasurementPane}, "tool_measure", "Measure", ShowsMeasurements}}},
-    };
-    return kItems;
-}
 
 QString TipOf(const WindowCommandState& state)
 {
@@ -115,21 +37,46 @@ MainToolBar::MainToolBar(const WindowTarget& target, QWidget* parent)
     setObjectName(QStringLiteral("MainToolBar"));
     setMovable(false);
     setIconSize({20, 20});
-    for (const Item& item : Items()) {
-        const std::string_view name = item.name ? item.name : "";
-        if (name.empty())
+    addItems();
+    _changes =
+        NotificationCenter::Default().AddObserver(kNoteToolBarChanged, [this](const Notification&) {
+            addItems();
+            updateToolbarElements();
+        });
+}
+
+void MainToolBar::addItems()
+{
+    _buttons.clear();
+    hangingProtocolPopup = nullptr;
+    _layout = 0;
+    qDeleteAll(actions());
+    for (const ToolBarItem* item : PresentToolBar()) {
+        if (item->name == kToolBarSeparator)
             addSeparator();
-        else if (name == "ResetTBItem")
+        else if (item->name == kToolBarSpace)
+            addSpace(false);
+        else if (item->name == kToolBarStretch)
+            addSpace(true);
+        else if (item->name == kToolBarReset)
             addReset();
-        else if (name == "LayoutTB")
+        else if (item->name == kToolBarLayouts)
             addLayouts();
-        else if (name == "FlexibleSpace")
-            addStretch();
-        for (const Item::Button& button : item.buttons)
+        for (const ToolBarItem::Button& button : item->buttons)
             addButton({nullptr, button.command, button.isOn}, button.icon, button.menuForm);
     }
     for (QToolButton* button : findChildren<QToolButton*>())
         button->setFocusPolicy(Qt::TabFocus);  // a click leaves the keys where they are
+}
+
+void MainToolBar::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu menu;
+    for (const W command : {W::Toolbar, W::CustomizeToolbar}) {
+        QAction* action = AddCommandAction(&menu, {command}, _target);
+        action->setShortcut({});
+    }
+    menu.exec(event->globalPos());
 }
 
 void MainToolBar::addButton(const Button& button, const char* icon, const char* menuForm)
@@ -178,16 +125,21 @@ void MainToolBar::addLayouts()
     addWidget(hangingProtocolPopup);
 }
 
-void MainToolBar::addStretch()
+void MainToolBar::addSpace(bool stretches)
 {
     auto* space = new QWidget(this);
-    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    space->setSizePolicy(stretches ? QSizePolicy::Expanding : QSizePolicy::Fixed,
+                         QSizePolicy::Preferred);
+    space->setFixedWidth(kSpaceWidth);
+    if (stretches)
+        space->setMaximumWidth(QWIDGETSIZE_MAX);
     addWidget(space);
 }
 
 void MainToolBar::selectLayout(int layout)
 {
-    if (const GridLayout* shown = ControllerWithID(layout); shown && layout != _layout) {
+    const GridLayout* shown = ControllerWithID(layout);
+    if (hangingProtocolPopup && shown && layout != _layout) {
         hangingProtocolPopup->setIcon(LayoutIcon(*shown));
         _layout = layout;
     }

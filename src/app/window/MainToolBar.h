@@ -1,6 +1,8 @@
-// The tool bar of a window: buttons in groups, each the command of a menu. Main thread only.
+// The tool bar of a window: buttons in groups, each the command of a menu, in the order that the
+// user has given them. Main thread only.
 #pragma once
 #include "app/window/CommandActions.h"
+#include "platform/NotificationCenter.h"
 
 #include <QToolBar>
 
@@ -18,19 +20,24 @@ public:
     // The button that chooses the layout shows this one.
     void selectLayout(int layout);
 
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
 private:
     struct Button {
         QAction* action;
         AnyCommand command;
         bool (*isOn)(const WindowTarget&);  // null: as the command says
     };
+    void addItems();  // of the user's bar, in place of those that stand
     void addButton(const Button& button, const char* icon, const char* menuForm);
     void addReset();
     void addLayouts();
-    void addStretch();
+    void addSpace(bool stretches);
 
     WindowTarget _target;
     std::vector<Button> _buttons;
-    QToolButton* hangingProtocolPopup = nullptr;
+    QToolButton* hangingProtocolPopup = nullptr;  // null where the user has taken it out
     int _layout = 0;
+    NotificationCenter::Observation _changes;
 };

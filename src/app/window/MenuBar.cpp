@@ -171,7 +171,7 @@ void AddViewMenu(QMainWindow* window, const WindowTarget& target)
     view.Separator() << G::SwitchDemographics << G::SwitchScale << G::SwitchOverlays
                      << G::SwitchMeasurements << G::SwitchUSRegions << W::ReferenceLines;
     view.Separator() << W::PatientList << W::StudyInfo << W::MeasurementPane << W::MetadataPalette;
-    view.Separator() << W::Toolbar << W::SecondaryToolbar << W::FullScreen;
+    view.Separator() << W::Toolbar << W::CustomizeToolbar << W::SecondaryToolbar << W::FullScreen;
 }
 
 void AddImageMenu(QMainWindow* window, const WindowTarget& target,

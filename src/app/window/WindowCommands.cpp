@@ -291,6 +291,7 @@ constexpr Row kRows[] = {
     {C::Print, kPlain, "Print...", nullptr, nullptr, Can<Feature::Print>, Always, DoNothing, "Ctrl+P"},
     {C::FullScreen, kTurned, "Enter Full Screen", "Exit Full Screen", Is<&W::isInFullScreen>, Always, Always, Do<&W::zelToggleFullScreen>, "F11"},
     {C::Toolbar, kTurned, "Show Toolbar", "Hide Toolbar", Is<&W::showsToolbar>, Always, Always, Do<&W::zelToggleToolbar>, "Ctrl+Alt+T"},
+    {C::CustomizeToolbar, kPlain, "Customize Toolbar...", nullptr, nullptr, Is<&W::showsToolbar>, Always, Do<&W::customizeToolbar>},
     {C::PatientList, kTurned, "Show Patient List", "Hide Patient List", Is<&W::showsPatientList>, Always, Always, Do<&W::showHidePatientList>, "F9"},
     {C::StudyInfo, kTurned, "Show Study Info", "Hide Study Info", Is<&W::showsStudyInfo>, Is<&W::showsPatientList>, Always, Do<&W::showHideStudyInfo>, "Shift+F9"},
     {C::SecondaryToolbar, kTurned, "Show Secondary Toolbar", "Hide Secondary Toolbar", Is<&W::showsZELToolbar>, Always, Always, Do<&W::showHideZELToolbar>, "Ctrl+Shift+T"},

@@ -13,6 +13,7 @@ enum class WindowCommand {
     Print,
     FullScreen,
     Toolbar,
+    CustomizeToolbar,
     PatientList,
     StudyInfo,
     SecondaryToolbar,

@@ -18,6 +18,7 @@ public:
     virtual void zelToggleFullScreen() = 0;
     [[nodiscard]] virtual bool showsToolbar() const = 0;
     virtual void zelToggleToolbar() = 0;
+    virtual void customizeToolbar() = 0;  // by a sheet
     [[nodiscard]] virtual bool showsPatientList() const = 0;
     virtual void showHidePatientList() = 0;
     [[nodiscard]] virtual bool showsStudyInfo() const = 0;  // unfolded, in a pane that shows

@@ -76,6 +76,7 @@ private:
     void zelToggleFullScreen() override;
     [[nodiscard]] bool showsToolbar() const override;
     void zelToggleToolbar() override;
+    void customizeToolbar() override;
     [[nodiscard]] bool showsPatientList() const override;
     void showHidePatientList() override;
     [[nodiscard]] bool showsStudyInfo() const override;

@@ -1,6 +1,7 @@
 // Panes and bars of the window: shown, hidden, and remembered.
 #include "app/window/MainToolBar.h"
 #include "app/window/PatientPane.h"
+#include "app/window/ToolBarSheet.h"
 #include "app/window/ZELMainWindowController.h"
 #include "prefs/Prefs.h"
 
@@ -55,6 +56,13 @@ bool ZELMainWindowController::showsToolbar() const { return !_toolBar->isHidden(
 void ZELMainWindowController::zelToggleToolbar()
 {
     keepingFocus([this] { _toolBar->setVisible(_toolBar->isHidden()); });
+}
+
+void ZELMainWindowController::customizeToolbar()
+{
+    auto* sheet = new ToolBarSheet(this);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->open();
 }
 
 bool ZELMainWindowController::showsPatientList() const { return !_patients->isHidden(); }

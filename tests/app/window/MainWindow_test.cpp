@@ -1,102 +1,15 @@
 // A whole window on a made tree: bars and menus agree, panes come and go, everything has a name.
-#include "app/grid/GridFixture.h"
-#include "app/window/AppCommands.h"
-#include "app/window/MainToolBar.h"
-#include "app/window/ZELMainWindowController.h"
+#include "app/window/OpenWindow.h"
 #include "browser/ZELPatientOutlineView.h"
-#include "dicom_core/opening/RecentDocuments.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTest>
 #include <QToolButton>
 #include <algorithm>
 #include <set>
 
 namespace {
-
-class FakeApp final : public AppCommands {
-public:
-    void openFromDialog() override { log.push_back("open"); }
-    void openPaths(std::vector<std::string> paths) override
-    {
-        for (const std::string& path : paths)
-            log.push_back("path " + path);
-    }
-    void openRecent(std::size_t index) override
-    {
-        log.push_back("recent " + std::to_string(index));
-    }
-    ZELRecentDocuments& recents() override { return documents; }
-    void windowClosed() override { log.push_back("closed"); }
-    bool inQTModalMode() const override { return false; }
-    void quit() override { log.push_back("quit"); }
-    void showHidePreferencesWindow() override { log.push_back("preferences"); }
-    void showPreferencesPane(const char* pane) override { log.emplace_back(pane); }
-    void offerPreset(float width, float level) override
-    {
-        log.push_back("preset " + std::to_string(width) + " " + std::to_string(level));
-    }
-    void showHelp() override { log.push_back("help"); }
-    void showAcknowledgments() override { log.push_back("acknowledgments"); }
-    void showAbout() override { log.push_back("about"); }
-    void showFirstAidWindow() override { log.push_back("first aid"); }
-    bool hasUpdateCheck() const override { return false; }
-    void checkForUpdates() override {}
-    std::vector<QWidget*> viewerWindows() const override { return {}; }
-
-    ZELRecentDocuments documents;
-    Words log;
-};
-
-struct OpenWindow {
-    explicit OpenWindow(
-        const std::vector<SeriesForm>& forms = {{}, {.frames = 3}, {.frames = 2}},
-        const std::function<void()>& prepare = [] {})
-        : made(forms)
-    {
-        prefs_Set_ShowsUSRegions(false);
-        prepare();
-        auto tree = std::make_unique<ZELDcmTree>();
-        while (dk_DicomBaseElem* patient = made.tree.patientTreeRoot()->GetFirstChild())
-            tree->patientTreeRoot()->AddChild(made.tree.patientTreeRoot()->RemoveChild(patient));
-        window = std::make_unique<ZELMainWindowController>(&app, std::move(tree), "/tmp/study",
-                                                           ZELRecentDocument{1, "/tmp/study", {}});
-        window->resize(900, 640);
-        window->show();
-        window->setZelWindowIsReady();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return window->pane()->layoutView()->showsAll(); }));
-        QTest::qWait(20);
-    }
-    [[nodiscard]] QAction* Action(const QString& title)
-    {
-        for (QMenu* menu : window->menuBar()->findChildren<QMenu*>()) {
-            emit menu->aboutToShow();
-            for (QAction* action : menu->actions()) {
-                if (action->text().section(u'\t', 0, 0) == title)
-                    return action;
-            }
-        }
-        return nullptr;
-    }
-    void Choose(const QString& title)
-    {
-        QAction* action = Action(title);
-        ASSERT_TRUE(action) << title.toStdString();
-        action->trigger();
-    }
-    [[nodiscard]] QAction* Button(const char* icon)
-    {
-        return window->findChild<MainToolBar*>()->findChild<QAction*>(QLatin1String(icon));
-    }
-
-    MadeTree made;
-    FakeApp app;
-    std::unique_ptr<ZELMainWindowController> window;
-};
 
 TEST(MainWindow, opens_the_layout_that_its_sequences_fill)
 {

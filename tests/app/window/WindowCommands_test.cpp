@@ -23,6 +23,7 @@ public:
     void zelToggleFullScreen() override { log.push_back("full screen"); }
     bool showsToolbar() const override { return true; }
     void zelToggleToolbar() override { log.push_back("tool bar"); }
+    void customizeToolbar() override { log.push_back("customize"); }
     bool showsPatientList() const override { return patients; }
     void showHidePatientList() override { log.push_back("patients"); }
     bool showsStudyInfo() const override { return false; }
