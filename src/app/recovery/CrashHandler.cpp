@@ -21,6 +21,7 @@ namespace {
 constexpr std::array kSignals = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
 constexpr int kMostFrames = 64;
 constexpr std::size_t kStackSize = 64 * 1024;
+constexpr unsigned kPatience_s = 10;
 
 // All that the handler touches is made before; it may call nothing that isn't safe in a signal.
 char gPathStart[4096];  // folder and program's name, to which the handler adds date and number
@@ -114,8 +115,10 @@ void WriteReport(int signal, const siginfo_t* info)
 
 extern "C" void OnCrash(int signal, siginfo_t* info, void*)
 {
-    if (gWrites.exchange(false))
+    if (gWrites.exchange(false)) {
+        alarm(kPatience_s);  // a trace that waits for a lock of the loader would never end
         WriteReport(signal, info);
+    }
     struct sigaction action{};
     action.sa_handler = SIG_DFL;
     sigaction(signal, &action, nullptr);

@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFile>
+#include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
@@ -25,6 +26,22 @@ QString Subject()
 {
     return ZelWord("VendorStrings_zel", "Program Crash Report")
         .arg(QCoreApplication::applicationVersion());
+}
+
+// A system takes no longer words on a command line, which is how links reach mail programs.
+constexpr qsizetype kMostOfLink = 100'000;
+
+qsizetype SizeInLink(const QString& text) { return QUrl::toPercentEncoding(text).size(); }
+
+void SayNotSent(const std::string& folder, QWidget* over)
+{
+    QMessageBox box(QMessageBox::Warning, ZelWord("FirstAid", "First Aid"),
+                    ZelWord("FirstAid", "NotSent"), QMessageBox::Ok, over);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        ZelWord("FirstAid", "NotSentExplain")
+            .arg(QLatin1String(kSupportAddress), QFile::decodeName(folder.c_str())));
+    box.exec();
 }
 
 // "&" begins the next part of such a link, so it is escaped too.
@@ -49,30 +66,29 @@ bool SendByDesktop(const QString& subject, const QString& body, const std::strin
                          QFile::decodeName(attachment.c_str()), QLatin1String(kSupportAddress)});
 }
 
-struct Logs {
-    std::vector<std::string> crashes, hangs;  // paths
-    QString system;
-};
-
-std::vector<QString> TextsOf(const std::vector<std::string>& paths)
+std::vector<ReportLog> LogsOf(const std::vector<std::string>& paths)
 {
-    std::vector<QString> texts;
+    std::vector<ReportLog> logs;
     for (const std::string& path : paths)
-        texts.push_back(QString::fromStdString(ReportFileText(path)));
-    return texts;
+        logs.push_back({QString::fromStdString(std::filesystem::path(path).filename().native()),
+                        QString::fromStdString(ReportFileText(path))});
+    return logs;
 }
 
-std::vector<ZipEntry> EntriesOf(const Logs& logs, const std::vector<QString>& struck)
+std::vector<ZipEntry> EntriesOf(const std::vector<ReportPiece>& pieces)
 {
-    const auto clean = [&](const QString& text) { return Struck(text, struck).toStdString(); };
     std::vector<ZipEntry> entries;
-    for (const auto* paths : {&logs.crashes, &logs.hangs}) {
-        for (const std::string& path : *paths)
-            entries.push_back({std::filesystem::path(path).filename().native(),
-                               clean(QString::fromStdString(ReportFileText(path)))});
+    for (const ReportPiece& piece : pieces) {
+        if (!piece.entry.isEmpty())
+            entries.push_back({piece.entry.toStdString(), piece.text.toStdString()});
     }
-    entries.push_back({"system.log", clean(logs.system)});
     return entries;
+}
+
+void RemoveFile(const std::string& path)
+{
+    std::error_code ignored;
+    std::filesystem::remove(path, ignored);
 }
 
 }  // namespace
@@ -86,10 +102,8 @@ CrashRecovery::CrashRecovery(Setup setup)
 
 CrashRecovery::~CrashRecovery()
 {
-    if (_logs.empty())
-        return;
-    std::error_code ignored;
-    std::filesystem::remove(_logs, ignored);
+    if (!_logs.empty())
+        RemoveFile(_logs);
 }
 
 void CrashRecovery::U_UpdateCrashCounter()
@@ -127,34 +141,33 @@ bool CrashRecovery::doSpecialApplicationStartup(bool didCrash, QWidget* over)
 bool CrashRecovery::U_EmailOurCrashLogs(const QString& text, bool cleanUp, QWidget* over)
 {
     const std::string& name = _setup.programName;
-    const Logs logs{U_CollectCrashReportPaths(name, reportsFolder(), kCrashSuffix),
-                    U_CollectCrashReportPaths(name, reportsFolder(), kHangSuffix),
-                    QString::fromStdString(SystemLogText(name))};
     ReportParts parts = PartsOfThisMachine(QString::fromStdString(_setup.place));
     parts.userText = text;
-    // All of it is shown, also what goes as an attachment.
-    parts.logsInText = true;
-    parts.crashLogs = TextsOf(logs.crashes);
-    parts.hangLogs = TextsOf(logs.hangs);
-    parts.systemLog = logs.system;
+    parts.crashLogs = LogsOf(U_CollectCrashReportPaths(name, reportsFolder(), kCrashSuffix));
+    parts.hangLogs = LogsOf(U_CollectCrashReportPaths(name, reportsFolder(), kHangSuffix));
+    parts.systemLog = QString::fromStdString(SystemLogText(name));
+    // All of it is shown, also what goes in the archive, and leaves as it was seen.
+    const std::vector<ReportPiece> pieces = ReportPieces(parts);
     ReportReviewWindow review(
-        ReportText(parts), [&](const QString& shown) { return RevealingRanges(shown, parts); },
+        WholeText(pieces), [&](const QString& shown) { return RevealingRanges(shown, parts); },
         over);
     if (review.exec() != QDialog::Accepted)
         return false;
-    // The text that was seen is what leaves; the archive holds the same logs, struck likewise.
-    const std::string archive =
-        zipCrashLogs(_setup.temporaryFolder, EntriesOf(logs, review.struckWords()));
-    bool sent = !archive.empty() && _setup.mail.withAttachment(Subject(), review.text(), archive);
+    const std::vector<ReportPiece> seen = PiecesOf(review.text(), pieces);
+    const std::string archive = zipCrashLogs(_setup.temporaryFolder, EntriesOf(seen));
+    bool sent =
+        !archive.empty() && _setup.mail.withAttachment(Subject(), TextBesideArchive(seen), archive);
     if (sent) {
         if (!_logs.empty())
-            std::filesystem::remove(_logs);
+            RemoveFile(_logs);
         _logs = archive;
     } else {
-        std::error_code ignored;
-        std::filesystem::remove(archive, ignored);
-        sent = _setup.mail.asText(Subject(), review.text());
+        if (!archive.empty())
+            RemoveFile(archive);
+        sent = _setup.mail.asText(Subject(), TextWithin(seen, kMostOfLink, SizeInLink));
     }
+    if (!sent)
+        SayNotSent(reportsFolder(), over);
     if (sent && cleanUp)
         clearOlderCrashLogs(name, reportsFolder());
     return sent;

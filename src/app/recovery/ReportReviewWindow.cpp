@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -22,7 +23,7 @@ const QColor kMarkBack(255, 214, 102), kMarkText(Qt::black);
 ReportReviewWindow::ReportReviewWindow(const QString& text,
                                        std::function<std::vector<TextRange>(const QString&)> find,
                                        QWidget* parent)
-    : QDialog(parent), _find(std::move(find)), _edit(new QPlainTextEdit)
+    : QDialog(parent), _find(std::move(find)), _text(text), _edit(new QPlainTextEdit)
 {
     setWindowTitle(Word("Review"));
     auto* column = new QVBoxLayout(this);
@@ -33,6 +34,9 @@ ReportReviewWindow::ReportReviewWindow(const QString& text,
     _edit->setAccessibleName(Word("Review"));
     _edit->setToolTip(Word("ReviewExplain"));
     _edit->setTabChangesFocus(true);
+    // Struck, not rewritten: what the archive holds is struck in the same places.
+    _edit->setReadOnly(true);
+    _edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     _edit->setPlainText(text);
     column->addWidget(_edit, 1);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
@@ -57,11 +61,9 @@ ReportReviewWindow::ReportReviewWindow(const QString& text,
     resize(kFirstSize);
 }
 
-QString ReportReviewWindow::text() const { return _edit->toPlainText(); }
-
 void ReportReviewWindow::mark()
 {
-    _marked = _find(text());
+    _marked = _find(_text);
     QList<QTextEdit::ExtraSelection> shown;
     for (const TextRange& range : _marked) {
         QTextEdit::ExtraSelection selection;
@@ -77,36 +79,31 @@ void ReportReviewWindow::mark()
     _next->setEnabled(!_marked.empty());
 }
 
-void ReportReviewWindow::strike(const std::vector<QString>& words)
+void ReportReviewWindow::strike(const std::vector<TextRange>& parts)
 {
     const int at = _edit->textCursor().selectionStart();
-    _struck.insert(_struck.end(), words.begin(), words.end());
-    _edit->setPlainText(Struck(text(), words));
+    const int line = _edit->verticalScrollBar()->value();
+    _text = Struck(_text, parts);
+    _edit->setPlainText(_text);
     QTextCursor cursor = _edit->textCursor();
-    cursor.setPosition(std::min(at, static_cast<int>(text().size())));
+    cursor.setPosition(at);
     _edit->setTextCursor(cursor);
+    _edit->verticalScrollBar()->setValue(line);
 }
 
-void ReportReviewWindow::strikeAll()
-{
-    const QString all = text();
-    std::vector<QString> words;
-    for (const TextRange& range : _marked)
-        words.push_back(all.mid(range.start, range.length));
-    strike(words);
-}
+void ReportReviewWindow::strikeAll() { strike(_marked); }
 
 void ReportReviewWindow::strikeSelected()
 {
     const QTextCursor cursor = _edit->textCursor();
     const int at = cursor.position();
     if (cursor.hasSelection())
-        return strike({cursor.selectedText().replace(QChar::ParagraphSeparator, u'\n')});
+        return strike({{cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart()}});
     const auto under = std::ranges::find_if(_marked, [at](const TextRange& range) {
         return range.start <= at && at <= range.start + range.length;
     });
     if (under != _marked.end())
-        strike({text().mid(under->start, under->length)});
+        strike({*under});
 }
 
 void ReportReviewWindow::goToNextMark()

@@ -12,26 +12,25 @@ class ReportReviewWindow final : public QDialog {
     Q_OBJECT
 
 public:
-    // `find` answers what of a text is to be marked.
+    // `text` has no carriage returns. `find` answers what of a text is to be marked.
     ReportReviewWindow(const QString& text,
                        std::function<std::vector<TextRange>(const QString&)> find,
                        QWidget* parent = nullptr);
 
-    [[nodiscard]] QString text() const;
-    // The words that were struck by the buttons; they are to go from attachments too.
-    [[nodiscard]] const std::vector<QString>& struckWords() const { return _struck; }
+    // As long as the text that it began with; see Struck.
+    [[nodiscard]] const QString& text() const { return _text; }
     void strikeAll();       // all that is marked
     void strikeSelected();  // what is selected, or the marked part at the cursor
     [[nodiscard]] int marks() const { return static_cast<int>(_marked.size()); }
 
 private:
     void mark();
-    void strike(const std::vector<QString>& words);
+    void strike(const std::vector<TextRange>& parts);
     void goToNextMark();
 
     std::function<std::vector<TextRange>(const QString&)> _find;
+    QString _text;
     std::vector<TextRange> _marked;
-    std::vector<QString> _struck;
     QPlainTextEdit* _edit;
     QPushButton *_strikeAll, *_strike, *_next;
 };

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <fstream>
 #include <pwd.h>
+#include <span>
 #include <unistd.h>
 
 namespace {
@@ -19,23 +20,36 @@ namespace {
 const QString kLongRule = QString(100, u'-') + QStringLiteral("\n\n");
 const QString kShortRule = QString(50, u'-') + QStringLiteral("\n\n");
 
-QString Joined(const std::vector<QString>& logs, const QString& none)
+void AddLogs(const std::vector<ReportLog>& logs, const char* none, std::vector<ReportPiece>* pieces)
 {
     if (logs.empty())
-        return none;
-    QString text = logs.front();
-    for (std::size_t i = 1; i < logs.size(); ++i)
-        text += kLongRule + logs[i];
-    return text;
+        pieces->push_back({QString::fromLatin1(none), false});
+    for (const ReportLog& log : logs) {
+        pieces->push_back({log.text, false, log.name});
+        if (&log != &logs.back())
+            pieces->push_back({kLongRule, false});
+    }
+    pieces->push_back({kLongRule, false});
 }
 
-QString Logs(const ReportParts& parts)
+QString MachineText(const ReportParts& parts)
 {
-    if (!parts.logsInText)
-        return u'\n' + kLongRule;
-    return Joined(parts.crashLogs, QStringLiteral("No Crash logs found.\n")) + kLongRule +
-           Joined(parts.hangLogs, QStringLiteral("No .hang logs found.\n")) + kLongRule +
-           parts.systemLog + u'\n' + kLongRule;
+    QString text = kShortRule;
+    text += QStringLiteral("System version: %1\n\n").arg(parts.systemVersion);
+    const QString count =
+        parts.processors != 1 ? QStringLiteral("%1 x ").arg(parts.processors) : QString();
+    text += QStringLiteral("Model: %1\nCPU Speed: %2%3 GHz\n\n")
+                .arg(parts.model, count, QString::number(parts.clock_GHz, 'f', 2));
+    text += QStringLiteral("User: %1  SessionID: %2\n\n")
+                .arg(parts.userName, QString::number(parts.userID));
+    text += QStringLiteral("Application: %1\n\n").arg(parts.application) + kShortRule;
+    text += QStringLiteral("Mounted volumes:\n\n");
+    for (std::size_t i = 0; i < parts.volumes.size(); ++i)
+        text += QStringLiteral("%1: %2\n").arg(QString::number(i + 1), parts.volumes[i]);
+    QByteArray preferences;
+    static_cast<void>(WritePropertyList(parts.preferences, &preferences));
+    return text + u'\n' + QString(50, u'-') +
+           QStringLiteral("\n\nProgram Preferences:\n%1\n\n\n").arg(QString::fromUtf8(preferences));
 }
 
 void AddTexts(const QVariant& value, std::vector<QString>* texts)
@@ -106,27 +120,61 @@ ReportParts PartsOfThisMachine(const QString& application)
     return parts;
 }
 
-QString ReportText(const ReportParts& parts)
+std::vector<ReportPiece> ReportPieces(const ReportParts& parts)
+{
+    std::vector<ReportPiece> pieces;
+    if (!parts.userText.isEmpty()) {
+        pieces.push_back({parts.userText + u'\n'});
+        pieces.push_back({kLongRule, false});
+    }
+    AddLogs(parts.crashLogs, "No Crash logs found.\n", &pieces);
+    AddLogs(parts.hangLogs, "No .hang logs found.\n", &pieces);
+    pieces.push_back({parts.systemLog, false, QStringLiteral("system.log")});
+    pieces.push_back({u'\n' + kLongRule});
+    pieces.push_back({MachineText(parts)});
+    for (ReportPiece& piece : pieces)
+        piece.text.remove(u'\r');  // a text window would, and places in the text were others
+    return pieces;
+}
+
+QString WholeText(const std::vector<ReportPiece>& pieces)
 {
     QString text;
-    if (!parts.userText.isEmpty())
-        text += parts.userText + u'\n' + (parts.logsInText ? kLongRule : QString());
-    text += Logs(parts) + kShortRule;
-    text += QStringLiteral("System version: %1\n\n").arg(parts.systemVersion);
-    const QString count =
-        parts.processors != 1 ? QStringLiteral("%1 x ").arg(parts.processors) : QString();
-    text += QStringLiteral("Model: %1\nCPU Speed: %2%3 GHz\n\n")
-                .arg(parts.model, count, QString::number(parts.clock_GHz, 'f', 2));
-    text += QStringLiteral("User: %1  SessionID: %2\n\n")
-                .arg(parts.userName, QString::number(parts.userID));
-    text += QStringLiteral("Application: %1\n\n").arg(parts.application) + kShortRule;
-    text += QStringLiteral("Mounted volumes:\n\n");
-    for (std::size_t i = 0; i < parts.volumes.size(); ++i)
-        text += QStringLiteral("%1: %2\n").arg(QString::number(i + 1), parts.volumes[i]);
-    QByteArray preferences;
-    static_cast<void>(WritePropertyList(parts.preferences, &preferences));
-    return text + u'\n' + QString(50, u'-') +
-           QStringLiteral("\n\nProgram Preferences:\n%1\n\n\n").arg(QString::fromUtf8(preferences));
+    for (const ReportPiece& piece : pieces)
+        text += piece.text;
+    return text;
+}
+
+QString TextBesideArchive(const std::vector<ReportPiece>& pieces)
+{
+    QString text;
+    for (const ReportPiece& piece : pieces)
+        text += piece.staysInMail ? piece.text : QString();
+    return text;
+}
+
+QString TextWithin(std::vector<ReportPiece> pieces, qsizetype most,
+                   const std::function<qsizetype(const QString&)>& size)
+{
+    constexpr qsizetype kMostOfLog = 64 * 1024, kLeastOfLog = 256;
+    for (qsizetype kept = kMostOfLog; kept >= kLeastOfLog && size(WholeText(pieces)) > most;
+         kept /= 2) {
+        for (ReportPiece& piece : pieces) {
+            if (!piece.entry.isEmpty() && piece.text.size() > kept)
+                piece.text = piece.text.left(kept) + QStringLiteral("\n[...]\n");
+        }
+    }
+    return WholeText(pieces);
+}
+
+std::vector<ReportPiece> PiecesOf(const QString& whole, std::vector<ReportPiece> pieces)
+{
+    for (qsizetype at = 0; ReportPiece & piece : pieces) {
+        const qsizetype length = piece.text.size();
+        piece.text = whole.mid(at, length);
+        at += length;
+    }
+    return pieces;
 }
 
 std::vector<TextRange> RevealingRanges(const QString& text, const ReportParts& parts)
@@ -168,13 +216,25 @@ std::vector<TextRange> RevealingRanges(const QString& text, const ReportParts& p
     return joined;
 }
 
-QString Struck(QString text, const std::vector<QString>& words)
+QString Struck(QString text, const std::vector<TextRange>& parts)
 {
-    std::vector<QString> longest = words;
-    std::ranges::sort(longest, std::greater<>(), &QString::size);
-    for (const QString& word : longest) {
-        if (!word.isEmpty())
-            text.replace(word, QString(QStringLiteral("[…]")));
+    constexpr qsizetype kShortest = 2;  // single letters stand everywhere
+    const QString before = text;
+    const auto strike = [&text](qsizetype at, qsizetype length) {
+        for (QChar& each : std::span(text.data() + at, static_cast<std::size_t>(length)))
+            each = each == u'\n' ? each : QChar(u'*');
+    };
+    for (const TextRange& part : parts) {
+        strike(part.start, part.length);
+        // Lines each by themselves: they may stand apart elsewhere.
+        for (const QString& line : before.mid(part.start, part.length).split(u'\n')) {
+            const QString word = line.trimmed();
+            const auto isMark = [](QChar each) { return !each.isLetterOrNumber(); };
+            if (word.size() < kShortest || std::ranges::all_of(word, isMark))
+                continue;
+            for (qsizetype at = before.indexOf(word); at >= 0; at = before.indexOf(word, at + 1))
+                strike(at, word.size());
+        }
     }
     return text;
 }

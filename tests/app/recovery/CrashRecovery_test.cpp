@@ -9,6 +9,7 @@
 #include "prefs/Prefs.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTimer>
@@ -50,7 +51,7 @@ struct Scene {
                              [this](const QString&, const QString& text) {
                                  body = text;
                                  asText = true;
-                                 return true;
+                                 return opensLinks;
                              }}})
     {
         std::filesystem::create_directories(folder.Path("tmp"));
@@ -67,7 +68,7 @@ struct Scene {
             .size();
     }
     TempFolder folder;
-    bool terminated = false, checked = false, asText = false, attaches = true;
+    bool terminated = false, checked = false, asText = false, attaches = true, opensLinks = true;
     QString body;
     std::string archive;
     CrashRecovery recovery;
@@ -103,6 +104,7 @@ TEST(FirstAid, sends_what_was_seen_and_nothing_else)
     EXPECT_TRUE(scene.recovery.doSpecialApplicationStartup(true, nullptr));
     EXPECT_TRUE(scene.body.startsWith(QLatin1String("I paged.")));
     EXPECT_FALSE(scene.body.contains(QLatin1String("DOE")));
+    EXPECT_FALSE(scene.body.contains(QLatin1String("older"))) << "that is in the archive";
     ASSERT_TRUE(std::filesystem::exists(scene.archive));
     EXPECT_FALSE(scene.asText);
     EXPECT_EQ(scene.Reports(), 1u);
@@ -117,6 +119,24 @@ TEST(FirstAid, sends_text_alone_where_nothing_can_be_attached)
     EXPECT_TRUE(scene.asText);
     EXPECT_TRUE(scene.body.contains(QLatin1String("older")));
     EXPECT_FALSE(std::filesystem::exists(scene.archive));
+    EXPECT_EQ(scene.Reports(), 2u);
+}
+
+// Nothing goes and nobody is left believing that it did.
+TEST(FirstAid, says_where_the_reports_are_when_nothing_sends_them)
+{
+    Scene scene;
+    scene.attaches = scene.opensLinks = false;
+    QString said;
+    WithNext<ReportReviewWindow>([&said](auto& review) {
+        review.accept();
+        WithNext<QMessageBox>([&said](auto& box) {
+            said = box.informativeText();
+            box.accept();
+        });
+    });
+    EXPECT_FALSE(scene.recovery.U_EmailOurCrashLogs({}, true, nullptr));
+    EXPECT_TRUE(said.contains(QString::fromStdString(scene.recovery.reportsFolder())));
     EXPECT_EQ(scene.Reports(), 2u);
 }
 
