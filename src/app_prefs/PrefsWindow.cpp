@@ -55,6 +55,7 @@ void PrefsWindow::addPane(PrefsPane* pane)
         PrefsWord("Pane tip")
             .arg(pane->windowTitle(), action->shortcut().toString(QKeySequence::NativeText)));
     _group->addAction(action);
+    _bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     connect(action, &QAction::triggered, this, [this, pane] { choose(pane); });
     auto* scroll = new PaneArea;
     scroll->setFrameShape(QFrame::NoFrame);

@@ -70,6 +70,7 @@ QPushButton* WLPresetsViewController::addButton(const char* title, QVBoxLayout* 
 void WLPresetsViewController::prepareTable()
 {
     _table->setModel(&_model);
+    _table->setTabKeyNavigation(false);  // Tab leads on, to the buttons
     _table->setAccessibleName(PrefsWord("Presets title"));
     _table->setToolTip(PrefsTip("Presets title"));
     _table->setSelectionBehavior(QAbstractItemView::SelectRows);

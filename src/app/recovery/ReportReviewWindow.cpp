@@ -39,7 +39,7 @@ ReportReviewWindow::ReportReviewWindow(const QString& text,
     _edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     _edit->setPlainText(text);
     column->addWidget(_edit, 1);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     const auto add = [&](const char* key, auto act) {
         QPushButton* button = buttons->addButton(Word(key), QDialogButtonBox::ActionRole);
         button->setToolTip(Word(key));

@@ -45,7 +45,7 @@ ZELFirstAidWindowController::ZELFirstAidWindowController(bool hasUpdateCheck, QW
     clearLogsCheck->setToolTip(Word("ClearLogsTip"));
     column->addWidget(clearLogsCheck);
     column->addStretch();
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     okButton = buttons->button(QDialogButtonBox::Ok);
     _update = buttons->addButton(Word("Check for Updates"), QDialogButtonBox::ActionRole);
     _update->setEnabled(hasUpdateCheck);
@@ -71,7 +71,9 @@ void ZELFirstAidWindowController::setBombed(bool bombed)
 {
     title->setVisible(bombed);
     resetExplain->setVisible(!bombed);
-    (bombed ? _collect : _reset)->setChecked(true);
+    QRadioButton* chosen = bombed ? _collect : _reset;
+    chosen->setChecked(true);
+    chosen->setFocus();
     buttonPressed();
     resize(kWidth, bombed ? kHeightBombed : kHeight);
 }

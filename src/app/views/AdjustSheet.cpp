@@ -33,7 +33,7 @@ AdjustSheet::AdjustSheet(GridHost* host, ViewerActions* actions, QWidget* parent
         _controller.livePreviewOnOff(on, valueIn(Row::First), valueIn(Row::Second));
     });
     form->addRow(_preview);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);

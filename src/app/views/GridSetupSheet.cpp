@@ -15,7 +15,7 @@ GridSetupSheet::GridSetupSheet(ZELSequenceGridViewModelController* grid, QWidget
     auto* form = new QFormLayout(this);
     _rows = addField(form, "Rows", grid->viewport().gridRows());
     _columns = addField(form, "Columns", grid->viewport().gridCols());
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);

@@ -57,7 +57,7 @@ ToolBarSheet::ToolBarSheet(QWidget* parent) : QDialog(parent)
     moves->addWidget(_down = addButton("Move Item Down", &ToolBarSheet::moveDown));
     moves->addStretch();
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->addButton(addButton("Restore Default Items", &ToolBarSheet::restoreDefaults),
                        QDialogButtonBox::ResetRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
