@@ -1091,7 +1091,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>Über</translation>
+        <translation>Über productNameXX</translation>
     </message>
     <message>
         <source>Untitled</source>

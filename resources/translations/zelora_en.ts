@@ -1128,7 +1128,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>About</translation>
+        <translation>About productNameXX</translation>
     </message>
     <message>
         <source>Untitled</source>

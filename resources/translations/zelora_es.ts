@@ -1091,7 +1091,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>Acerca de</translation>
+        <translation>Acerca de productNameXX</translation>
     </message>
     <message>
         <source>Untitled</source>

@@ -1091,7 +1091,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>À propos</translation>
+        <translation>À propos de productNameXX</translation>
     </message>
     <message>
         <source>Untitled</source>

@@ -1091,7 +1091,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>このプログラムについて</translation>
+        <translation>productNameXX について</translation>
     </message>
     <message>
         <source>Untitled</source>

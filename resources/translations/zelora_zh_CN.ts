@@ -1091,7 +1091,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>关于</translation>
+        <translation>关于 productNameXX</translation>
     </message>
     <message>
         <source>Untitled</source>

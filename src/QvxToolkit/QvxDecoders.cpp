@@ -11,6 +11,14 @@
 
 namespace {
 
+// What stands in a file where a UID belongs may be anything, and goes into logs only as one.
+bool IsUID(std::string_view text)
+{
+    constexpr std::size_t kMost = 64;
+    return !text.empty() && text.size() <= kMost &&
+           text.find_first_not_of("0123456789.") == std::string_view::npos;
+}
+
 using std::string_view_literals::operator""sv;
 
 struct StreamStart {
@@ -100,7 +108,7 @@ QvxStatus DecodeStream(QvxParserRec* reader, const QvxFrameRecord& record,
     }
     const std::string& uid = record.fTransferSyntax;
     *why = "(0002,0010): no decoder for frames of transfer syntax " +
-           (uid.empty() ? std::string("unknown") : EscapedText(uid));
+           (IsUID(uid) ? uid : std::string("unknown"));
     return kQvxUnsupported;
 }
 

@@ -66,16 +66,22 @@ bool SendAll(int socket, const std::string& bytes)
     return true;
 }
 
+enum class Handed { Taken, Refused, Unanswered };
+
 // Paths, each with a zero byte behind it; their end is the end of the stream.
-bool HandTo(int socket, const std::vector<std::string>& paths, int patience_ms)
+Handed HandTo(int socket, const std::vector<std::string>& paths, int patience_ms)
 {
     std::string message;
     for (const std::string& path : paths)
         message += path + '\0';
     char answer = 0;
     SetPatience(socket, patience_ms);
-    return SendAll(socket, message) && shutdown(socket, SHUT_WR) == 0 &&
-           recv(socket, &answer, 1, 0) == 1 && answer == kTaken;
+    if (!SendAll(socket, message) || shutdown(socket, SHUT_WR) != 0)
+        return errno == EAGAIN ? Handed::Unanswered : Handed::Refused;
+    const ssize_t n = recv(socket, &answer, 1, 0);
+    if (n == 1 && answer == kTaken)
+        return Handed::Taken;
+    return n < 0 && errno == EAGAIN ? Handed::Unanswered : Handed::Refused;
 }
 
 std::vector<std::string> PathsOf(const std::string& message)
@@ -87,6 +93,12 @@ std::vector<std::string> PathsOf(const std::string& message)
         start = end + 1;
     }
     return paths;
+}
+
+bool IsWaiting(int guest)
+{
+    pollfd other{guest, POLLOUT, 0};
+    return poll(&other, 1, 0) >= 0 && (other.revents & (POLLHUP | POLLERR)) == 0;
 }
 
 class Receiver final : public HandOver {
@@ -141,16 +153,14 @@ private:
         }
         if (n < 0 && (errno == EAGAIN || errno == EINTR))
             return;
-        const bool whole = n == 0;
-        std::vector<std::string> paths = PathsOf(talk.message);
-        if (whole)
-            static_cast<void>(!send(guest, &kTaken, 1, MSG_NOSIGNAL));
+        const std::string message = std::move(talk.message);
         talk.notifier->setEnabled(false);
         talk.notifier.release()->deleteLater();  // this runs within its signal
         fTalks.erase(guest);
+        // Who has waited too long has gone on alone, and opens the paths there.
+        if (n == 0 && IsWaiting(guest) && fReceived && fReceived(PathsOf(message)))
+            static_cast<void>(!send(guest, &kTaken, 1, MSG_NOSIGNAL));
         close(guest);
-        if (whole && fReceived)
-            fReceived(std::move(paths));
     }
 
     int fSocket;
@@ -183,17 +193,25 @@ std::unique_ptr<HandOver> HandOverOrStart(const std::string& folder, const std::
     sockaddr_un address{};
     if (folder.empty() || !AddressOf(path, &address))
         return std::make_unique<Receiver>(-1, path);
-    // Of two starts at one moment the second sees the first one's socket.
-    std::unique_ptr<FileLock> gate = std::make_unique<FileLock>(name + ".lock");
-    const int caller = NewSocket(true);
-    if (caller >= 0 &&
-        connect(caller, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
+    constexpr int kPause_ms = 50;
+    for (int waited_ms = 0;; waited_ms += kPause_ms) {
+        // Of two starts at one moment the second sees the first one's socket.
+        std::unique_ptr<FileLock> gate = std::make_unique<FileLock>(name + ".lock");
+        const int caller = NewSocket(true);
+        if (caller < 0 ||
+            connect(caller, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
+            if (caller >= 0)
+                close(caller);
+            return std::make_unique<Receiver>(ListenAt(path, address), path);
+        }
         gate.reset();
-        const bool taken = IsOurUser(caller) && HandTo(caller, paths, patience_ms);
+        const Handed handed =
+            IsOurUser(caller) ? HandTo(caller, paths, patience_ms) : Handed::Unanswered;
         close(caller);
-        return taken ? nullptr : std::make_unique<Receiver>(-1, path);
+        if (handed == Handed::Taken)
+            return nullptr;
+        if (handed == Handed::Unanswered || waited_ms >= patience_ms)
+            return std::make_unique<Receiver>(-1, path);
+        usleep(kPause_ms * 1000);
     }
-    if (caller >= 0)
-        close(caller);
-    return std::make_unique<Receiver>(ListenAt(path, address), path);
 }

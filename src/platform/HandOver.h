@@ -9,7 +9,8 @@
 
 class HandOver {
 public:
-    using Received = std::function<void(std::vector<std::string> paths)>;
+    // Whether the paths are taken.
+    using Received = std::function<bool(std::vector<std::string> paths)>;
 
     virtual ~HandOver() = default;
     // From now on, from the event loop; what came before waits until then.
@@ -17,9 +18,10 @@ public:
 };
 
 // Null: another process of that place runs and has taken the paths, which are absolute. Otherwise
-// this one is the one that others hand over to, until the object goes; one that can't be reached
-// within `patience_ms` is given up, and this one goes on without others.
+// this one is the one that others hand over to, until the object goes. One that ends just now is
+// waited for; one that doesn't answer within `patience_ms` is given up, and takes nothing any more,
+// and this one goes on without others.
 [[nodiscard]] std::unique_ptr<HandOver> HandOverOrStart(const std::string& folder,
                                                         const std::string& place,
                                                         const std::vector<std::string>& paths,
-                                                        int patience_ms = 2000);
+                                                        int patience_ms = 5000);

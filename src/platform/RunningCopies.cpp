@@ -36,7 +36,9 @@ RunningCopies::RunningCopies(std::string folder, std::string place)
     fFolder = fs::path(fFolder + "/.").lexically_normal().parent_path().native();
     const FileLock gate(fFolder + '/' + kGate);
     fName = fFolder + '/' + kPrefix + std::to_string(getpid());
-    for (int i = 1; fs::exists(fName) && i < 100; ++i)  // of another process with that number
+    std::error_code failed;
+    for (int i = 1; fs::exists(fName, failed) && i < 100;
+         ++i)  // of another process with that number
         fName = fFolder + '/' + kPrefix + std::to_string(getpid()) + '-' + std::to_string(i);
     fFile = open(fName.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
     if (fFile < 0)
@@ -61,9 +63,10 @@ std::vector<std::string> RunningCopies::places() const
         return found;
     const FileLock gate(fFolder + '/' + kGate);
     std::error_code failed;
-    for (const fs::directory_entry& entry : fs::directory_iterator(fFolder, failed)) {
-        const std::string name = entry.path().native();
-        if (!entry.path().filename().native().starts_with(kPrefix) || name == fName)
+    for (fs::directory_iterator each(fFolder, failed), end; !failed && each != end;
+         each.increment(failed)) {
+        const std::string name = each->path().native();
+        if (!each->path().filename().native().starts_with(kPrefix) || name == fName)
             continue;
         const int file = open(name.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
         if (file < 0)

@@ -18,6 +18,7 @@
 #include <QLocale>
 #include <QTranslator>
 #include <algorithm>
+#include <csignal>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -54,6 +55,7 @@ std::vector<std::string> Absolute(const std::vector<std::string>& paths)
 
 int main(int argc, char** argv)
 {
+    std::signal(SIGPIPE, SIG_IGN);  // a line for a terminal that has gone is no reason to end
     std::vector<std::string> paths(argv + std::min(1, argc), argv + argc);
     const std::optional<QString> snapshot = SnapshotPath();
     if (paths.empty() && (snapshot || !HasDisplay())) {
@@ -71,7 +73,7 @@ int main(int argc, char** argv)
         return 0;  // the copy that runs has taken them
     const RunningCopies copies(meeting, place);
     const std::string dataFolder = UserDataFolder();
-    if (!snapshot)
+    if (!snapshot && !dataFolder.empty())
         InstallCrashHandler(dataFolder + "/CrashReports", "zelora-viewer");
     int programName = 1;  // the rest is paths, in which Qt would look for options of its own
     QApplication application(programName, argv);
@@ -85,7 +87,7 @@ int main(int argc, char** argv)
         QCoreApplication::installTranslator(&toolkitWords);
     ZELAppDelegate viewer(snapshot, {dataFolder, place, [&copies] { return copies.places(); }});
     handOver->setReceived(
-        [&viewer](std::vector<std::string> more) { viewer.takeOver(std::move(more)); });
+        [&viewer](std::vector<std::string> more) { return viewer.takeOver(std::move(more)); });
     viewer.start(std::move(paths));
     return QApplication::exec();
 }

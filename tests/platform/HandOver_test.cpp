@@ -103,6 +103,7 @@ TEST(HandOver, a_later_start_of_the_same_place_gives_its_paths_and_ends)
         received.push_back(std::move(paths));
         if (received.size() == 2)
             QCoreApplication::exit();
+        return true;
     });
     QTimer::singleShot(5000, &application, [] { QCoreApplication::exit(1); });
     EXPECT_EQ(QCoreApplication::exec(), 0);
@@ -111,6 +112,41 @@ TEST(HandOver, a_later_start_of_the_same_place_gives_its_paths_and_ends)
     EXPECT_EQ(elsewhere.Wait(), 1);
     std::sort(received.begin(), received.end());
     EXPECT_EQ(received, (std::vector<Paths>{{}, odd}));
+}
+
+// Neither twice nor not at all.
+TEST(HandOver, paths_are_opened_by_one_of_two)
+{
+    int argc = 1;
+    char name[] = "test";
+    char* argv[] = {name, nullptr};
+    QCoreApplication application(argc, argv);
+    TempFolder folder;
+    auto first = HandOverOrStart(folder.Path(""), "/here", {});
+    int asked = 0;
+    // Who has waited too long has gone on alone.
+    Child hasty([&] { return HandOverOrStart(folder.Path(""), "/here", {"/a"}, 50) ? 1 : 0; });
+    EXPECT_EQ(hasty.Wait(), 1);
+    // Who comes while the first one ends takes its place.
+    Child next([&] {
+        const auto own = HandOverOrStart(folder.Path(""), "/here", {"/b"}, 5000);
+        for (const auto& entry : std::filesystem::directory_iterator(folder.Path(""))) {
+            if (entry.path().extension() == ".socket")
+                return own ? 2 : 3;
+        }
+        return 4;
+    });
+    first->setReceived([&](Paths paths) {
+        ++asked;
+        EXPECT_EQ(paths, Paths{"/b"});
+        QTimer::singleShot(100, &application, [] { QCoreApplication::exit(); });
+        return false;
+    });
+    QTimer::singleShot(5000, &application, [] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    first.reset();
+    EXPECT_GE(asked, 1);
+    EXPECT_EQ(next.Wait(), 2);
 }
 
 TEST(HandOver, one_that_was_killed_or_hangs_keeps_nobody_from_starting)

@@ -14,6 +14,7 @@
 #include <memory>
 #include <string_view>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -115,10 +116,18 @@ void WriteReport(int signal, const siginfo_t* info)
 
 extern "C" void OnCrash(int signal, siginfo_t* info, void*)
 {
-    if (gWrites.exchange(false)) {
-        alarm(kPatience_s);  // a trace that waits for a lock of the loader would never end
+    // One thread writes, within its time: a trace that waits for a lock of the loader would never
+    // end. Another that fails meanwhile waits for it; the writer itself ends at once.
+    static std::atomic<pid_t> writer = 0;
+    const pid_t self = static_cast<pid_t>(syscall(SYS_gettid));
+    pid_t none = 0;
+    if (gWrites && writer.compare_exchange_strong(none, self)) {
+        alarm(kPatience_s);
         WriteReport(signal, info);
+        gWrites = false;
     }
+    while (gWrites && writer != self)
+        pause();
     struct sigaction action{};
     action.sa_handler = SIG_DFL;
     sigaction(signal, &action, nullptr);

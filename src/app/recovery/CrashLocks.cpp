@@ -3,14 +3,18 @@
 #include "platform/Folders.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <charconv>
 #include <chrono>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -39,12 +43,53 @@ void Remove(const std::string& path)
     fs::remove(path, ignored);
 }
 
+// A plain file of the size that one has; anything else is none of ours.
+QvxStatus ReadLock(const std::string& path, std::string* text)
+{
+    constexpr std::size_t kMost = 8192;
+    const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC);
+    if (file < 0)
+        return errno;
+    struct stat info{};
+    ssize_t length = -1;
+    if (fstat(file, &info) == 0 && S_ISREG(info.st_mode)) {
+        text->resize(kMost);
+        length = read(file, text->data(), kMost);
+    }
+    close(file);
+    text->resize(static_cast<std::size_t>(std::max<ssize_t>(length, 0)));
+    return length < 0 ? EINVAL : kQvxOK;
+}
+
+// The library may end the program where a desktop goes without asking: that is no crash. It knows
+// nothing of objects then, so the lock's name stands here. Empty: none.
+std::array<char, PATH_MAX> gLockAtExit{};
+
+void RemoveLockAtExit()
+{
+    if (gLockAtExit[0] == 0)
+        return;
+    unlink(gLockAtExit.data());
+    if (char* name = std::strrchr(gLockAtExit.data(), '/')) {
+        *name = 0;
+        rmdir(gLockAtExit.data());  // unless others have theirs in it
+    }
+    gLockAtExit[0] = 0;
+}
+
+void NoteForExit(const std::string& lock)
+{
+    [[maybe_unused]] static const int registered = std::atexit(RemoveLockAtExit);
+    if (lock.size() < gLockAtExit.size())
+        std::memcpy(gLockAtExit.data(), lock.c_str(), lock.size() + 1);
+}
+
 }  // namespace
 
 CrashLocks::CrashLocks(std::string dataFolder, std::string place,
                        std::function<std::vector<std::string>()> running)
-    : fFolder(dataFolder + "/CrashLocks"),
-      fOldFolder(dataFolder + "/CrashLock"),
+    : fFolder(dataFolder.empty() ? dataFolder : dataFolder + "/CrashLocks"),
+      fOldFolder(dataFolder.empty() ? dataFolder : dataFolder + "/CrashLock"),
       fPlace(std::move(place)),
       fRunning(std::move(running))
 {
@@ -53,12 +98,9 @@ CrashLocks::CrashLocks(std::string dataFolder, std::string place,
 // The length comes first, so that a file that was cut off is known for one.
 QvxStatus CrashLocks::readContentsOfFile(const std::string& path, std::string* place)
 {
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        return errno ? errno : ENOENT;
-    std::ostringstream all;
-    all << file.rdbuf();
-    const std::string text = all.str();
+    std::string text;
+    if (const QvxStatus status = ReadLock(path, &text))
+        return status;
     place->clear();
     if (text.empty())
         return kQvxOK;
@@ -79,9 +121,10 @@ std::vector<std::string> CrashLocks::lockFiles() const
 {
     std::vector<std::string> files;
     std::error_code failed;
-    for (const fs::directory_entry& entry : fs::directory_iterator(fFolder, failed)) {
-        if (entry.path().filename().native().starts_with(kLockName))
-            files.push_back(entry.path().native());
+    for (fs::directory_iterator each(fFolder, failed), end; !failed && each != end;
+         each.increment(failed)) {
+        if (each->path().filename().native().starts_with(kLockName))
+            files.push_back(each->path().native());
     }
     return files;
 }
@@ -122,16 +165,16 @@ std::string CrashLocks::U_UniqueLockFileURLInside(const std::string& baseName) c
 
 void CrashLocks::U_WriteCrashSemaphore()
 {
-    if (!MakePrivateFolders(fFolder))
+    if (fFolder.empty() || !MakePrivateFolders(fFolder))
         return;
     const std::string path = U_UniqueLockFileURLInside(std::string(kLockName));
     std::ofstream file(path, std::ios::binary);
     file << fPlace.size() << '\n' << fPlace;
     file.close();
-    if (file)
-        fCrashLockFile = path;
-    else
-        Remove(path);
+    if (!file)
+        return Remove(path);
+    fCrashLockFile = path;
+    NoteForExit(path);
 }
 
 void CrashLocks::U_ClearCrashSemaphore(bool own, bool orphaned)
@@ -157,6 +200,7 @@ void CrashLocks::clearOwn()
     if (!fCrashLockFile.empty()) {
         Remove(fCrashLockFile);
         fCrashLockFile.clear();
+        NoteForExit({});
         return;
     }
     for (const std::string& file : lockFiles()) {

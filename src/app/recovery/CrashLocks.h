@@ -1,7 +1,8 @@
 // The mark that a run leaves and only a clean end removes: one lock file a run, in a folder that
 // all copies of the program share. Nothing is held open; who runs is told by others. Failing file
-// operations are ignored: the worst that comes of them is a first aid that wasn't needed. Paths are
-// bytes. Main thread only.
+// operations are ignored: the worst that comes of them is a first aid that wasn't needed. An exit
+// by whomever counts as a clean end. Without a data folder there are no locks. Paths are bytes.
+// Main thread only.
 #pragma once
 #include "util/StatusCodes.h"
 
@@ -23,7 +24,7 @@ public:
     [[nodiscard]] bool U_CrashSemaphoreExists() const;
 
     // `place` is empty for an empty file, and need not be there any more. -43 for a file that names
-    // none, -19 for one that was cut off, an errno if it can't be read.
+    // none, -19 for one that was cut off, an errno if it can't be read or is no plain file.
     [[nodiscard]] static QvxStatus readContentsOfFile(const std::string& path, std::string* place);
     [[nodiscard]] const std::string& crashLockFile() const { return fCrashLockFile; }
 

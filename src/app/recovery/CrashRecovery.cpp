@@ -11,10 +11,12 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QEventLoop>
 #include <QFile>
 #include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QUrl>
 #include <filesystem>
 
@@ -56,14 +58,28 @@ bool OpenMailLink(const QString& subject, const QString& body)
              QUrl::StrictMode));
 }
 
+// The command ends as soon as a mail program has the letter, or stays with it for as long as that
+// is open; one that can't find any ends with a code, at once.
 bool SendByDesktop(const QString& subject, const QString& body, const std::string& attachment)
 {
+    constexpr int kPatience_ms = 5000;
     const QString program = QStandardPaths::findExecutable(QStringLiteral("xdg-email"));
-    return !program.isEmpty() &&
-           QProcess::startDetached(
-               program, {QStringLiteral("--utf8"), QStringLiteral("--subject"), subject,
-                         QStringLiteral("--body"), body, QStringLiteral("--attach"),
-                         QFile::decodeName(attachment.c_str()), QLatin1String(kSupportAddress)});
+    if (program.isEmpty())
+        return false;
+    auto* command = new QProcess(qApp);
+    QEventLoop loop;
+    QTimer::singleShot(kPatience_ms, &loop, &QEventLoop::quit);
+    QObject::connect(command, &QProcess::finished, &loop, &QEventLoop::quit);
+    QObject::connect(command, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
+    QObject::connect(command, &QProcess::finished, command, &QObject::deleteLater);
+    command->start(program,
+                   {QStringLiteral("--utf8"), QStringLiteral("--subject"), subject,
+                    QStringLiteral("--body"), body, QStringLiteral("--attach"),
+                    QFile::decodeName(attachment.c_str()), QLatin1String(kSupportAddress)});
+    if (command->state() != QProcess::NotRunning)
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return command->state() == QProcess::Running ||
+           (command->error() != QProcess::FailedToStart && command->exitCode() == 0);
 }
 
 std::vector<ReportLog> LogsOf(const std::vector<std::string>& paths)
@@ -85,6 +101,12 @@ std::vector<ZipEntry> EntriesOf(const std::vector<ReportPiece>& pieces)
     return entries;
 }
 
+QString PathWithoutExtension(const std::string& path)
+{
+    const std::filesystem::path whole(path);
+    return QFile::decodeName((whole.parent_path() / whole.stem()).c_str());
+}
+
 void RemoveFile(const std::string& path)
 {
     std::error_code ignored;
@@ -104,6 +126,12 @@ CrashRecovery::~CrashRecovery()
 {
     if (!_logs.empty())
         RemoveFile(_logs);
+}
+
+void CrashRecovery::keepLastReports() const
+{
+    constexpr int kKept = 10;
+    clearOlderCrashLogs(_setup.programName, reportsFolder(), kKept);
 }
 
 void CrashRecovery::U_UpdateCrashCounter()
@@ -141,7 +169,7 @@ bool CrashRecovery::doSpecialApplicationStartup(bool didCrash, QWidget* over)
 bool CrashRecovery::U_EmailOurCrashLogs(const QString& text, bool cleanUp, QWidget* over)
 {
     const std::string& name = _setup.programName;
-    ReportParts parts = PartsOfThisMachine(QString::fromStdString(_setup.place));
+    ReportParts parts = PartsOfThisMachine(PathWithoutExtension(_setup.place));
     parts.userText = text;
     parts.crashLogs = LogsOf(U_CollectCrashReportPaths(name, reportsFolder(), kCrashSuffix));
     parts.hangLogs = LogsOf(U_CollectCrashReportPaths(name, reportsFolder(), kHangSuffix));
@@ -154,7 +182,7 @@ bool CrashRecovery::U_EmailOurCrashLogs(const QString& text, bool cleanUp, QWidg
     if (review.exec() != QDialog::Accepted)
         return false;
     const std::vector<ReportPiece> seen = PiecesOf(review.text(), pieces);
-    const std::string archive = zipCrashLogs(_setup.temporaryFolder, EntriesOf(seen));
+    const std::string archive = zipCrashLogs(_setup.temporaryFolder(), EntriesOf(seen));
     bool sent =
         !archive.empty() && _setup.mail.withAttachment(Subject(), TextBesideArchive(seen), archive);
     if (sent) {

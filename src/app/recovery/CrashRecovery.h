@@ -22,7 +22,8 @@ struct MailWays {
 class CrashRecovery {
 public:
     struct Setup {
-        std::string programName, dataFolder, temporaryFolder, place;
+        std::string programName, dataFolder, place;
+        std::function<std::string()> temporaryFolder;       // of this run, gone with it
         std::function<std::vector<std::string>()> running;  // places of copies
         std::function<void()> terminate;                    // ends this program soon
         std::function<void()> checkForUpdates;              // empty: there is no such service
@@ -33,6 +34,8 @@ public:
 
     [[nodiscard]] CrashLocks& locks() { return _locks; }
     [[nodiscard]] std::string reportsFolder() const { return _setup.dataFolder + "/CrashReports"; }
+    // The reports of the last crashes stay, older ones go.
+    void keepLastReports() const;
     static void U_UpdateCrashCounter();
     static void U_UpdateRunCounter();
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -15,10 +16,8 @@ namespace {
 constexpr std::size_t kMostText = 256 * 1024;
 constexpr int kPatience_ms = 2000;
 
-std::string AsText(std::string bytes)
+std::string AsText(const std::string& bytes)
 {
-    if (bytes.size() > kMostText)
-        bytes.erase(0, bytes.size() - kMostText);
     return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()))
         .replace(QChar::ReplacementCharacter, u'?')
         .remove(QChar(0))
@@ -61,12 +60,11 @@ std::string U_GetUniqueFileName(const std::string& folder, const std::string& na
     return free.native();
 }
 
-void clearOlderCrashLogs(const std::string& programName, const std::string& folder)
+void clearOlderCrashLogs(const std::string& programName, const std::string& folder, int kept)
 {
     for (const std::string_view suffix : {kCrashSuffix, kHangSuffix}) {
         auto paths = U_CollectCrashReportPaths(programName, folder, suffix);
-        if (!paths.empty())
-            paths.pop_back();
+        paths.resize(paths.size() - std::min(paths.size(), static_cast<std::size_t>(kept)));
         for (const std::string& path : paths) {
             std::error_code ignored;
             fs::remove(path, ignored);
@@ -76,16 +74,11 @@ void clearOlderCrashLogs(const std::string& programName, const std::string& fold
 
 std::string ReportFileText(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary | std::ios::ate);
-    if (!file)
-        return {};
-    const auto size = static_cast<std::size_t>(std::max<std::streamoff>(file.tellg(), 0));
-    const std::size_t kept = std::min(size, kMostText);
-    file.seekg(static_cast<std::streamoff>(size - kept));
-    std::string bytes(kept, '\0');
-    file.read(bytes.data(), static_cast<std::streamsize>(kept));
+    std::ifstream file(path, std::ios::binary);
+    std::string bytes(kMostText, '\0');
+    file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(file.gcount(), 0)));
-    return AsText(std::move(bytes));
+    return AsText(bytes);
 }
 
 std::string SystemLogText(const std::string& programName)
@@ -93,18 +86,25 @@ std::string SystemLogText(const std::string& programName)
     QProcess journal;
     journal.start(QStringLiteral("journalctl"),
                   {QStringLiteral("--no-pager"), QStringLiteral("--lines=500"),
-                   QStringLiteral("_COMM=%1").arg(QString::fromStdString(programName))});
+                   QStringLiteral("_COMM=%1").arg(QString::fromStdString(programName)),
+                   QStringLiteral("_UID=%1").arg(getuid())});
     if (!journal.waitForFinished(kPatience_ms)) {
         journal.kill();
         journal.waitForFinished(kPatience_ms);
         return {};
     }
-    return journal.exitCode() == 0 ? AsText(journal.readAllStandardOutput().toStdString())
-                                   : std::string();
+    if (journal.exitCode() != 0)
+        return {};
+    std::string lines = journal.readAllStandardOutput().toStdString();
+    if (lines.size() > kMostText)
+        lines.erase(0, lines.size() - kMostText);
+    return AsText(lines);
 }
 
 std::string zipCrashLogs(const std::string& folder, const std::vector<ZipEntry>& entries)
 {
+    if (folder.empty())
+        return {};
     const std::string path = U_GetUniqueFileName(folder, "CrashLogs.zip");
     if (const QvxStatus status = WriteZipArchive(path, entries)) {
         LogLine("ZipException caught: " + std::to_string(status) +

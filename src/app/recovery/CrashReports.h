@@ -16,12 +16,14 @@ inline constexpr std::string_view kCrashSuffix = ".crash", kHangSuffix = ".hang"
 [[nodiscard]] bool U_CrashReportExists(const std::string& programName, const std::string& folder);
 // `name` in `folder`, or with "_1", "_2", … before its extension: one that is free.
 [[nodiscard]] std::string U_GetUniqueFileName(const std::string& folder, const std::string& name);
-// All but the last of each kind are deleted.
-void clearOlderCrashLogs(const std::string& programName, const std::string& folder);
-// A file's text in UTF-8, its last 256 KiB; bytes that are none become question marks.
+// All but the last `kept` of each kind are deleted.
+void clearOlderCrashLogs(const std::string& programName, const std::string& folder, int kept = 1);
+// A file's text in UTF-8, its first 256 KiB; bytes that are none become question marks.
 [[nodiscard]] std::string ReportFileText(const std::string& path);
-// The lines that the system has kept of this program, where it tells them; at most 256 KiB.
+// The lines that the system has kept of this user's runs of the program, where it tells them; the
+// last 256 KiB.
 [[nodiscard]] std::string SystemLogText(const std::string& programName);
-// "CrashLogs.zip" of the entries, in `folder`; empty if it can't be written, which is logged.
+// "CrashLogs.zip" of the entries, in `folder`; empty if it can't be written, which is logged, or
+// there is no folder.
 [[nodiscard]] std::string zipCrashLogs(const std::string& folder,
                                        const std::vector<ZipEntry>& entries);

@@ -1,6 +1,7 @@
 #include "app/recovery/Relaunch.h"
 
 #include <array>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -22,6 +23,7 @@ bool RelaunchAfterEnd(const std::string& program)
         char byte = 0;
         while (read(ends[0], &byte, 1) > 0) {
         }
+        signal(SIGPIPE, SIG_DFL);  // what is ignored stays so in the next program
         execl(program.c_str(), program.c_str(), static_cast<char*>(nullptr));
         _exit(1);
     }

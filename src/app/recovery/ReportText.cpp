@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <fstream>
 #include <pwd.h>
+#include <set>
 #include <span>
 #include <unistd.h>
 
@@ -64,16 +65,74 @@ void AddTexts(const QVariant& value, std::vector<QString>* texts)
         texts->push_back(value.toString());
     } else if (value.typeId() == QMetaType::QByteArray) {
         texts->push_back(QString::fromUtf8(value.toByteArray()));
+        texts->push_back(QString::fromLatin1(value.toByteArray().toBase64()));  // as it is shown
     }
 }
 
 // Nobody's name stands in these, and a trace without its libraries tells nothing.
 bool IsOfTheSystem(QStringView path)
 {
-    static constexpr const char* kFolders[] = {"/lib",   "/usr/lib", "/usr/bin/",
-                                               "/proc/", "/sys/",    "/dev/"};
+    static constexpr const char* kFolders[] = {"/lib/",  "/lib64/", "/usr/lib/", "/usr/bin/",
+                                               "/proc/", "/sys/",   "/dev/"};
     return std::ranges::any_of(
         kFolders, [path](const char* folder) { return path.startsWith(QLatin1String(folder)); });
+}
+
+void AddPlacesOf(const QString& word, const QString& text, std::vector<TextRange>* found)
+{
+    constexpr qsizetype kShortest = 2;
+    for (qsizetype at = word.size() < kShortest ? -1 : text.indexOf(word); at >= 0;
+         at = text.indexOf(word, at + word.size()))
+        found->push_back({static_cast<int>(at), static_cast<int>(word.size())});
+}
+
+// Absolute paths, up to the end of their line: blanks and brackets may be part of them. Of a trace
+// the place within a program stays, which stands in brackets behind its path.
+void AddPaths(const QString& text, std::vector<TextRange>* found)
+{
+    static const QRegularExpression kPath(
+        QStringLiteral("(?<![\\w.<])(file://)?/(?:(?!\\([^()\\s]*\\+0x)[^<>\\n\"])+"));
+    static const QRegularExpression kBlank(QStringLiteral("[\\s]"));
+    for (qsizetype from = 0;;) {
+        const QRegularExpressionMatch match = kPath.match(text, from);
+        if (!match.hasMatch())
+            return;
+        from = match.capturedEnd();
+        if (IsOfTheSystem(match.capturedView())) {  // another path may follow it
+            const qsizetype blank = match.captured().indexOf(kBlank);
+            from = blank < 0 ? from : match.capturedStart() + blank;
+        } else {
+            found->push_back({static_cast<int>(match.capturedStart()),
+                              static_cast<int>(match.capturedLength())});
+        }
+    }
+}
+
+// What the program itself has said in the system's log: names of files stand there bare.
+void AddLogMessages(const QString& text, std::vector<TextRange>* found)
+{
+    static const QRegularExpression kMessage(QStringLiteral("^[^\\n]*\\[\\d+\\]: ([^\\n]+)$"),
+                                             QRegularExpression::MultilineOption);
+    for (auto each = kMessage.globalMatch(text); each.hasNext();) {
+        const QRegularExpressionMatch match = each.next();
+        found->push_back(
+            {static_cast<int>(match.capturedStart(1)), static_cast<int>(match.capturedLength(1))});
+    }
+}
+
+std::vector<TextRange> Joined(std::vector<TextRange> ranges)
+{
+    std::ranges::sort(ranges, {}, &TextRange::start);
+    std::vector<TextRange> joined;
+    for (const TextRange& range : ranges) {
+        if (!joined.empty() && range.start <= joined.back().start + joined.back().length) {
+            TextRange& last = joined.back();
+            last.length = std::max(last.length, range.start + range.length - last.start);
+        } else {
+            joined.push_back(range);
+        }
+    }
+    return joined;
 }
 
 // The clock of the first processor, 0 where the system doesn't tell.
@@ -187,39 +246,20 @@ std::vector<TextRange> RevealingRanges(const QString& text, const ReportParts& p
         AddTexts(parts.preferences.value(QLatin1String(key)), &words);
     std::vector<TextRange> found;
     for (const QString& word : words) {
-        const QString shown = word.toHtmlEscaped();  // as the preferences' text has it
-        for (const QString& each : {word, shown}) {
-            constexpr int kShortest = 2;
-            for (qsizetype at = each.size() < kShortest ? -1 : text.indexOf(each); at >= 0;
-                 at = text.indexOf(each, at + each.size()))
-                found.push_back({static_cast<int>(at), static_cast<int>(each.size())});
-        }
+        AddPlacesOf(word, text, &found);
+        if (const QString shown = word.toHtmlEscaped(); shown != word)
+            AddPlacesOf(shown, text, &found);  // as the preferences' text has it
     }
-    static const QRegularExpression kPath(
-        QStringLiteral("(file://)?/[^\\s<>\"'():]+/?[^\\s<>\"'():]*"));
-    for (auto each = kPath.globalMatch(text); each.hasNext();) {
-        const QRegularExpressionMatch match = each.next();
-        if (!IsOfTheSystem(match.capturedView()))
-            found.push_back({static_cast<int>(match.capturedStart()),
-                             static_cast<int>(match.capturedLength())});
-    }
-    std::ranges::sort(found, {}, &TextRange::start);
-    std::vector<TextRange> joined;
-    for (const TextRange& range : found) {
-        if (!joined.empty() && range.start <= joined.back().start + joined.back().length) {
-            TextRange& last = joined.back();
-            last.length = std::max(last.length, range.start + range.length - last.start);
-        } else {
-            joined.push_back(range);
-        }
-    }
-    return joined;
+    AddPaths(text, &found);
+    AddLogMessages(text, &found);
+    return Joined(std::move(found));
 }
 
 QString Struck(QString text, const std::vector<TextRange>& parts)
 {
     constexpr qsizetype kShortest = 2;  // single letters stand everywhere
     const QString before = text;
+    std::set<QString> words;
     const auto strike = [&text](qsizetype at, qsizetype length) {
         for (QChar& each : std::span(text.data() + at, static_cast<std::size_t>(length)))
             each = each == u'\n' ? each : QChar(u'*');
@@ -230,11 +270,13 @@ QString Struck(QString text, const std::vector<TextRange>& parts)
         for (const QString& line : before.mid(part.start, part.length).split(u'\n')) {
             const QString word = line.trimmed();
             const auto isMark = [](QChar each) { return !each.isLetterOrNumber(); };
-            if (word.size() < kShortest || std::ranges::all_of(word, isMark))
-                continue;
-            for (qsizetype at = before.indexOf(word); at >= 0; at = before.indexOf(word, at + 1))
-                strike(at, word.size());
+            if (word.size() >= kShortest && !std::ranges::all_of(word, isMark))
+                words.insert(word);
         }
+    }
+    for (const QString& word : words) {
+        for (qsizetype at = before.indexOf(word); at >= 0; at = before.indexOf(word, at + 1))
+            strike(at, word.size());
     }
     return text;
 }

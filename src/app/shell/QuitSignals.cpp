@@ -2,6 +2,7 @@
 
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -14,18 +15,23 @@ volatile std::sig_atomic_t gWriteEnd = -1;
 
 extern "C" void TellOfSignal(int)
 {
+    const int before = errno;
     const char byte = 1;
     // A full pipe has already been told.
     [[maybe_unused]] const auto written = write(gWriteEnd, &byte, 1);
+    errno = before;
 }
 
+// One that was ignored from the start stays so: nohup means it.
 void SetHandlers(void (*handler)(int))
 {
-    struct sigaction action{};
+    struct sigaction action{}, before{};
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
-    for (const int signal : kSignals)
-        sigaction(signal, &action, nullptr);
+    for (const int signal : kSignals) {
+        if (sigaction(signal, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
+            sigaction(signal, &action, nullptr);
+    }
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include "app/window/DocumentIcon.h"
 #include "app/window/DroppedPaths.h"
 #include "app/window/WindowWords.h"
-#include "dicom_core/opening/RecentDocuments.h"
 #include "platform/Words.h"
 
 #include <QDragEnterEvent>
@@ -15,6 +14,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 
@@ -43,7 +43,7 @@ StartWindow::StartWindow(AppCommands* app) : _app(app), _recents(new QListWidget
     _recents->setAccessibleName(Word("Open Recent"));
     _recents->setToolTip(ViewerWord("What was open lately"));
     connect(_recents, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
-        _app->openRecent(static_cast<std::size_t>(_recents->row(item)));
+        _app->openRecent(_shown[static_cast<std::size_t>(_recents->row(item))]);
     });
     column->addWidget(_recents, 1);
     setCentralWidget(middle);
@@ -66,13 +66,19 @@ void StartWindow::addMenus()
     help->addAction(Word("Acknowledgments"), this, [this] { _app->showAcknowledgments(); });
     help->addSeparator();
     help->addAction(Word("First Aid..."), this, [this] { _app->showFirstAidWindow(); });
-    help->addAction(Word("About"), this, [this] { _app->showAbout(); });
+    help->addAction(Word("Check for Updates..."), this, [this] { _app->checkForUpdates(); })
+        ->setEnabled(_app->hasUpdateCheck());
+    help->addAction(U_FixApplicationMenuTitle(Word("About")), this, [this] { _app->showAbout(); });
 }
 
 void StartWindow::reloadRecents()
 {
+    const std::vector<ZELRecentDocument>& list = _app->recents().list();
+    if (std::ranges::equal(list, _shown, &ZELRecentDocument::matches))
+        return;
+    _shown = list;
     _recents->clear();
-    for (const ZELRecentDocument& document : _app->recents().list()) {
+    for (const ZELRecentDocument& document : _shown) {
         auto* item = new QListWidgetItem(DocumentIcon(document), document.menuTitle(), _recents);
         item->setToolTip(PlainToolTip(DisplayText(document.docPath)));
     }

@@ -1,6 +1,8 @@
 // What the program shows while no patient is open: a menu, what was open lately, and a place to
 // drop files on. Closing it ends the program. Main thread only.
 #pragma once
+#include "dicom_core/opening/RecentDocuments.h"
+
 #include <QMainWindow>
 
 class AppCommands;
@@ -11,7 +13,7 @@ class StartWindow final : public QMainWindow {
 
 public:
     explicit StartWindow(AppCommands* app);
-    void reloadRecents();
+    void reloadRecents();  // if they are others than those that show
 
 signals:
     void closed();
@@ -27,4 +29,5 @@ private:
 
     AppCommands* _app;
     QListWidget* _recents;
+    std::vector<ZELRecentDocument> _shown;  // a row each
 };

@@ -8,6 +8,7 @@
 #include "app/window/WindowWords.h"
 #include "app/window/ZELMainWindowController.h"
 #include "dicom_core/annotations/PrepareSequenceAnnotations.h"
+#include "dicom_core/opening/CacheCopy.h"
 #include "dicom_core/opening/PathNames.h"
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "dicom_core/store/TempFolder.h"
@@ -82,7 +83,7 @@ ZELAppDelegate::ZELAppDelegate(std::optional<QString> snapshotPath,
     CrashRecovery::Setup recovery;
     recovery.programName = kProgramName;
     recovery.dataFolder = std::move(surroundings.dataFolder);
-    recovery.temporaryFolder = TemporaryFolder();
+    recovery.temporaryFolder = [] { return GetProgramTempFolder(); };
     recovery.place = std::move(surroundings.place);
     recovery.running = std::move(surroundings.running);
     recovery.terminate = [this] { quit(); };
@@ -139,9 +140,10 @@ void ZELAppDelegate::applicationDidFinishLaunching()
 
 void ZELAppDelegate::finishNormalApplicationStartup()
 {
+    if (_quits)  // asked to, within first aid
+        return;
     _recovery->locks().U_ClearCrashSemaphore(true, false);
     _recovery->locks().U_WriteCrashSemaphore();
-    _hasStarted = true;
     CrashRecovery::U_UpdateRunCounter();
     openPaths(std::exchange(_pathsAtStart, {}));
     enqueue([this] { openDiscs(); });
@@ -150,14 +152,18 @@ void ZELAppDelegate::finishNormalApplicationStartup()
 void ZELAppDelegate::openDiscs()
 {
     SweepDeadTempFolders();
+    RemoveAbandonedCacheFolders();
+    _recovery->keepLastReports();
     if (prefs_DoAutoOpenDICOMCDs())
         _controller.openMountedCDsOnStartup();
     _volumes = NewVolumeWatcher([this](const std::string& point) { diskMounted(point); });
     _controller.delayedOpenFile();
 }
 
-void ZELAppDelegate::takeOver(std::vector<std::string> paths)
+bool ZELAppDelegate::takeOver(std::vector<std::string> paths)
 {
+    if (_quits)
+        return false;
     if (paths.empty()) {
         if (ZELMainWindowController* window = topmostViewerWindow())
             window->bringToFront();
@@ -165,6 +171,7 @@ void ZELAppDelegate::takeOver(std::vector<std::string> paths)
             _startWindow->activateWindow();
     }
     openPaths(std::move(paths));
+    return true;
 }
 
 // --- End -----------------------------------------------------------------------------------------
@@ -184,7 +191,8 @@ void ZELAppDelegate::applicationWillTerminate()
     _windows.clear();
     _baseBuffer.reset();
     RemoveProgramTempFolder();
-    if (std::exchange(_hasStarted, false))
+    // Also after a reset, whose run has no lock but that of the one before.
+    if (isAttended())
         _recovery->locks().U_ClearCrashSemaphore(true, false);
     CImporterPlusFactory::DeinitFactory();
 }
@@ -200,6 +208,12 @@ void ZELAppDelegate::diskMounted(const std::string& mountPoint)
 // --- Requests ------------------------------------------------------------------------------------
 
 void ZELAppDelegate::enqueue(Job job)
+{
+    if (!_quits)
+        append(std::move(job));
+}
+
+void ZELAppDelegate::append(Job job)
 {
     _jobs.push_back(std::move(job));
     QTimer::singleShot(0, this, &ZELAppDelegate::runJobs);
@@ -236,6 +250,7 @@ void ZELAppDelegate::leaveIfDone()
             _startWindow = std::make_unique<StartWindow>(commands);
             QObject::connect(_startWindow.get(), &StartWindow::closed, this, [this] { quit(); });
         }
+        _startWindow->reloadRecents();
         _startWindow->show();
     }
 }
@@ -273,7 +288,7 @@ void ZELAppDelegate::callLater(double seconds, std::function<void()> call)
 
 std::optional<OpenHost::Picked> ZELAppDelegate::runOpenPanel(const std::string& startFolder)
 {
-    if (!isAttended())
+    if (!isAttended() || _quits)
         return std::nullopt;
     OpenPanel panel(startFolder, QApplication::activeWindow());
     if (panel.exec() != QDialog::Accepted)
@@ -314,7 +329,7 @@ void ZELAppDelegate::ShowAlertForError(QvxStatus code, const std::string& name)
 
 void ZELAppDelegate::showAlert(const ZELAlertWords& words)
 {
-    if (!isAttended())
+    if (!isAttended() || _quits)
         return;
     RunAlert(words, QApplication::activeWindow());
 }
@@ -354,9 +369,15 @@ void ZELAppDelegate::openPaths(std::vector<std::string> paths)
         enqueue([this, path = std::move(path)] { openPath(path); });
 }
 
-void ZELAppDelegate::openRecent(std::size_t index)
+void ZELAppDelegate::openRecent(const ZELRecentDocument& document)
 {
-    enqueue([this, index] { _controller.openZELRecentDoc(index); });
+    enqueue([this, document] {
+        const auto& list = _recents.list();
+        const auto found = std::ranges::find_if(
+            list, [&](const ZELRecentDocument& each) { return each.matches(document); });
+        if (found != list.end())
+            _controller.openZELRecentDoc(static_cast<std::size_t>(found - list.begin()));
+    });
 }
 
 void ZELAppDelegate::windowClosed()
@@ -368,16 +389,17 @@ void ZELAppDelegate::windowClosed()
 void ZELAppDelegate::quit()
 {
     _quits = true;
+    _jobs.clear();  // nothing opens any more
+    append([this] {
+        applicationShouldTerminate();
+        for (const auto& window : _windows)
+            window->close();
+    });
     _controller.cancelOpen();
     while (QWidget* modal = QApplication::activeModalWidget()) {
         if (!modal->close())
             break;
     }
-    enqueue([this] {
-        applicationShouldTerminate();
-        for (const auto& window : _windows)
-            window->close();
-    });
 }
 
 std::vector<QWidget*> ZELAppDelegate::viewerWindows() const
@@ -393,7 +415,7 @@ ZELMainWindowController* ZELAppDelegate::topmostViewerWindow() const
 {
     ZELMainWindowController* found = nullptr;
     for (const auto& window : _windows)
-        if (window->isVisible() && (!found || window->isActiveWindow()))
+        if (window->isVisible() && (!found || window->activation() > found->activation()))
             found = window.get();
     return found;
 }

@@ -43,8 +43,9 @@ public:
     // Open dialog gives. The event loop is left with the code of the program when the user quits:
     // 1 when something failed to open and nothing else ever opened.
     void start(std::vector<std::string> paths);
-    // Another start of the same program: opens them here, or comes to the front without any.
-    void takeOver(std::vector<std::string> paths);
+    // Another start of the same program: opens them here, or comes to the front without any. False
+    // when this one is about to end.
+    [[nodiscard]] bool takeOver(std::vector<std::string> paths);
 
 private:
     // OpenObserver
@@ -61,7 +62,7 @@ private:
     // AppCommands
     void openFromDialog() override;
     void openPaths(std::vector<std::string> paths) override;
-    void openRecent(std::size_t index) override;
+    void openRecent(const ZELRecentDocument& document) override;
     ZELRecentDocuments& recents() override { return _recents; }
     void windowClosed() override;
     void quit() override;
@@ -85,7 +86,8 @@ private:
     void applicationWillTerminate();
 
     using Job = std::function<void()>;
-    void enqueue(Job job);
+    void enqueue(Job job);  // nothing any more once the user quits
+    void append(Job job);
     void runJobs();
     void openPath(const std::string& path);
     void diskMounted(const std::string& mountPoint);
@@ -113,5 +115,4 @@ private:
     int _laterCalls = 0;    // that have not come to be requests yet
     bool _jobRuns = false;
     bool _hasFailed = false, _hasOpened = false, _quits = false;
-    bool _hasStarted = false;  // normally, with a lock of this run
 };

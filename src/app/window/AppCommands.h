@@ -7,13 +7,14 @@
 
 class QWidget;
 class ZELRecentDocuments;
+struct ZELRecentDocument;
 
 class AppCommands {
 public:
     virtual ~AppCommands() = default;
     virtual void openFromDialog() = 0;
-    virtual void openPaths(std::vector<std::string> paths) = 0;  // bytes
-    virtual void openRecent(std::size_t index) = 0;
+    virtual void openPaths(std::vector<std::string> paths) = 0;      // bytes
+    virtual void openRecent(const ZELRecentDocument& document) = 0;  // of the list
     [[nodiscard]] virtual ZELRecentDocuments& recents() = 0;
     // A window has been closed, and can be thrown away.
     virtual void windowClosed() = 0;

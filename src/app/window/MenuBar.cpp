@@ -6,6 +6,7 @@
 #include "app/tools/ZELWWWLTextBoxController.h"
 #include "app/window/CommandActions.h"
 #include "app/window/DocumentIcon.h"
+#include "app/window/WindowWords.h"
 #include "dicom_core/opening/RecentDocuments.h"
 #include "dicom_core/values/USRegions.h"
 #include "platform/Words.h"
@@ -54,7 +55,7 @@ public:
     template <typename Act>
     QAction* Plain(const char* title, const QKeySequence& key, Act act)
     {
-        return fMenu->addAction(MenuText(Word(title)), key, fMenu, act);
+        return fMenu->addAction(MenuText(U_FixApplicationMenuTitle(Word(title))), key, fMenu, act);
     }
     void Filled(const char* title, std::function<Entries()> entries)
     {
@@ -82,9 +83,9 @@ void FillRecentMenu(QMenu* menu, AppCommands* app)
 {
     menu->clear();
     const std::vector<ZELRecentDocument>& list = app->recents().list();
-    for (std::size_t i = 0; i < list.size(); ++i)
-        menu->addAction(DocumentIcon(list[i]), MenuText(list[i].menuTitle()), menu,
-                        [app, i] { app->openRecent(i); });
+    for (const ZELRecentDocument& document : list)
+        menu->addAction(DocumentIcon(document), MenuText(document.menuTitle()), menu,
+                        [app, document] { app->openRecent(document); });
     if (!list.empty())
         menu->addSeparator();
     menu->addAction(Word("Clear Menu"), menu, [app] { app->recents().clearZELRecentDocuments(); })

@@ -54,6 +54,11 @@ void Do(const T& t)
 bool HasMeasurements(const T& t) { return t.panes->hasFeature(Feature::Measurements); }
 bool HasPalette(const T& t) { return t.panes->hasFeature(Feature::MetadataPalette); }
 
+bool CanTogglePalette(const T& t)
+{
+    return !t.panes->windowHasSheetOpen() || t.panes->showsMetadataPalette();
+}
+
 // ---- marks ----
 
 template <bool (ZELDcmTree::*Question)() const>
@@ -296,7 +301,7 @@ constexpr Row kRows[] = {
     {C::StudyInfo, kTurned, "Show Study Info", "Hide Study Info", Is<&W::showsStudyInfo>, Is<&W::showsPatientList>, Always, Do<&W::showHideStudyInfo>, "Shift+F9"},
     {C::SecondaryToolbar, kTurned, "Show Secondary Toolbar", "Hide Secondary Toolbar", Is<&W::showsZELToolbar>, Always, Always, Do<&W::showHideZELToolbar>, "Ctrl+Shift+T"},
     {C::MeasurementPane, kTurned, "Show Measurement Pane", "Hide Measurement Pane", Is<&W::showsMeasurementInfoBox>, Always, HasMeasurements, Do<&W::showHideMeasurementInfoBox>, "Ctrl+Shift+M"},
-    {C::MetadataPalette, kPlain, "Show Metadata Palette", nullptr, nullptr, HasPalette, Always, DoNothing, "Ctrl+D"},
+    {C::MetadataPalette, kTurned, "Show Metadata Palette", "Hide Metadata Palette", Is<&W::showsMetadataPalette>, CanTogglePalette, HasPalette, DoNothing, "Ctrl+D"},
     {C::SwitchSequenceMark, kTurned, "Mark Current Sequence", "Unmark Current Sequence", IsMarked, Always, Always, SwitchMark, "Ctrl+M"},
     {C::MarkAll, kPlain, "Mark All", nullptr, nullptr, Tree<&D::hasUnmarkedSequences>, Always, MarkTree<SequenceMark::Set>},
     {C::UnmarkAll, kPlain, "Unmark All", nullptr, nullptr, Tree<&D::hasMarkedSequences>, Always, MarkTree<SequenceMark::Clear>},

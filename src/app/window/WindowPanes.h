@@ -28,6 +28,9 @@ public:
     [[nodiscard]] virtual bool showsMeasurementInfoBox() const = 0;
     virtual void showHideMeasurementInfoBox() = 0;
 
+    [[nodiscard]] virtual bool showsMetadataPalette() const = 0;
+    [[nodiscard]] virtual bool windowHasSheetOpen() const = 0;
+
     // Of the rows that are selected in the list, those of sequences.
     [[nodiscard]] virtual std::vector<dk_SequenceBase*> selectedSequences() const = 0;
     virtual void openAdjustColorsDialog() = 0;

@@ -8,6 +8,13 @@
 
 [[nodiscard]] inline QString ViewerWord(const char* key) { return ZelWord("Viewer", key); }
 
+// A menu's title with the program's name where it says so.
+[[nodiscard]] inline QString U_FixApplicationMenuTitle(QString title)
+{
+    return title.replace(QLatin1String("productNameXX"),
+                         ZelWord("VendorStrings_zel", "MenuProductName"));
+}
+
 // Bytes for people: control characters, and bytes that are no UTF-8, as \xNN.
 [[nodiscard]] inline QString DisplayText(std::string_view bytes)
 {

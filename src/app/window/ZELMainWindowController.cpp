@@ -224,6 +224,8 @@ void ZELMainWindowController::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && !_windowClosing) {
+        static int activations = 0;
+        _activation = ++activations;
         windowDidBecomeKey();
         postMainWindowChange(false);
     }

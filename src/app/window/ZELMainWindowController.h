@@ -36,6 +36,7 @@ public:
     [[nodiscard]] const ZELRecentDocument& windowDoc() const { return _windowDoc; }
     [[nodiscard]] ZELDcmTree& imagesDB() const { return *_imagesDB; }
     void bringToFront();
+    [[nodiscard]] int activation() const { return _activation; }  // grows; 0: never active so far
     // The open has ended: keys go to the active grid.
     void setZelWindowIsReady();
     // From now on the window changes nothing any more, and plays nothing.
@@ -56,7 +57,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    // GridsWindow, BrowserHost
+    // GridsWindow, BrowserHost, and one that WindowPanes asks too
     [[nodiscard]] const void* windowKey() const override { return this; }
     [[nodiscard]] bool zelWindowIsReady() const override { return _zelWindowIsReady; }
     [[nodiscard]] bool windowIsClosing() const override { return _windowClosing; }
@@ -85,6 +86,7 @@ private:
     void showHideZELToolbar() override;
     [[nodiscard]] bool showsMeasurementInfoBox() const override { return false; }
     void showHideMeasurementInfoBox() override {}  // comes with measurements
+    [[nodiscard]] bool showsMetadataPalette() const override { return false; }
     [[nodiscard]] std::vector<dk_SequenceBase*> selectedSequences() const override;
     void openAdjustColorsDialog() override { _pane->openAdjustColorsDialog(); }
     void updateToolbarElements() override;
@@ -113,6 +115,7 @@ private:
     NotificationCenter::Observation _toolSelection;
     std::unique_ptr<zelParserVisit> _firstFile;  // until the first frame has been painted
     std::function<void()> _whenPainted;
+    int _activation = 0;
     bool _painted = false, _showsAll = false, _wholly = true;
     bool _firstTimeFlag = true;  // it has not been the key window yet
     bool _windowClosing = false, _zelWindowIsReady = false;

@@ -77,6 +77,8 @@ TEST(CrashReports, are_those_of_the_program_and_older_ones_go)
         folder.WriteFile(std::string("reports/") + name, name);
     // Names count from the folder: what lies in one of another name is another program's.
     EXPECT_EQ(U_CollectCrashReportPaths("zelora-viewer", reports, kCrashSuffix).size(), 2u);
+    clearOlderCrashLogs("zelora-viewer", reports, 2);
+    EXPECT_EQ(U_CollectCrashReportPaths("zelora-viewer", reports, kCrashSuffix).size(), 2u);
     clearOlderCrashLogs("zelora-viewer", reports);
     const auto left = U_CollectCrashReportPaths("zelora-viewer", reports, kCrashSuffix);
     ASSERT_EQ(left.size(), 1u);
@@ -85,6 +87,11 @@ TEST(CrashReports, are_those_of_the_program_and_older_ones_go)
     EXPECT_TRUE(std::filesystem::exists(folder.Path("reports/other_5.crash")));
     folder.WriteFile("a.zip", "");
     EXPECT_TRUE(U_GetUniqueFileName(folder.Path("reports/.."), "a.zip").ends_with("a_1.zip"));
+    // The signal and the trace stand first.
+    const std::string longReport =
+        ReportFileText(folder.WriteFile("long", "Signal 11\n" + std::string(400'000, 'm')));
+    EXPECT_TRUE(longReport.starts_with("Signal 11\n"));
+    EXPECT_EQ(longReport.size(), 256u * 1024);
     EXPECT_EQ(ReportFileText(folder.WriteFile("bytes", std::string("a\xff\0z", 4))), "a?z");
 }
 

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -117,6 +118,14 @@ TEST(CrashLocks, are_read_with_their_faults)
     EXPECT_EQ(read("0\n"), -43);
     EXPECT_EQ(read("5\n/no"), -19);
     EXPECT_EQ(read("12"), -19);
+    EXPECT_EQ(read("20000\n" + std::string(20'000, '/')), -19);
+    // Nothing that could keep the program waiting.
+    const std::string pipe = scene.folder.Path("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(CrashLocks::readContentsOfFile(pipe, &place), EINVAL);
+    EXPECT_EQ(CrashLocks::readContentsOfFile(scene.folder.Path(""), &place), EINVAL);
+    std::filesystem::create_symlink(here, scene.folder.Path("link"));
+    EXPECT_EQ(CrashLocks::readContentsOfFile(scene.folder.Path("link"), &place), ELOOP);
 }
 
 TEST(CrashLocks, go_by_whose_they_are)

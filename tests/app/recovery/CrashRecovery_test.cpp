@@ -38,8 +38,8 @@ struct Scene {
     Scene()
         : recovery({.programName = "zelora-viewer",
                     .dataFolder = folder.Path("data"),
-                    .temporaryFolder = folder.Path("tmp"),
                     .place = folder.WriteFile("program", ""),
+                    .temporaryFolder = [this] { return folder.Path("tmp"); },
                     .running = [this] { return std::vector<std::string>{folder.Path("program")}; },
                     .terminate = [this] { terminated = true; },
                     .checkForUpdates = [this] { checked = true; },

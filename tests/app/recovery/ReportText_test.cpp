@@ -53,22 +53,35 @@ TEST(ReportText, marks_what_may_point_to_someone)
 {
     ReportParts parts = Parts();
     parts.crashLogs = {
-        {{}, QStringLiteral("7f00-7f01 r-xp /home/wolf/DOE/lib.so\n/usr/lib/libQt6.so\n")}};
+        {{},
+         QStringLiteral("7f00-7f01 r-xp /home/wolf/DOE/a (1)'s lib.so\n/usr/lib/libQt6.so\n"
+                        "/srv/x/zelora-viewer(_ZN4Some+0x12) [0x7f]\n")}};
+    parts.systemLog = QStringLiteral(
+        "Nov 24 01:02:03 desk zelora-viewer[77]: “DOE JANE” cannot be "
+        "opened.\n-- No entries --\n");
+    const QByteArray bytes(
+        "/srv/\xff"
+        "DOE");
+    parts.preferences[QStringLiteral("ZELRecentDocuments")] =
+        QVariantList{QVariantMap{{QStringLiteral("path"), bytes}}};
     const QString text = WholeText(ReportPieces(parts));
     const std::vector<TextRange> ranges = RevealingRanges(text, parts);
     QStringList marked;
     for (const TextRange& range : ranges)
         marked += text.mid(range.start, range.length);
-    for (const char* word : {"file:///media/DOE JANE", "wolf", "/home/wolf/DOE/lib.so",
-                             "/opt/zelora/bin/zelora-viewer", "/srv/Smith &amp; Co/ct"}) {
-        EXPECT_TRUE(marked.filter(QLatin1String(word)).size() >= 1)
+    for (const char* word : {"file:///media/DOE JANE", "wolf", "/opt/zelora/bin/zelora-viewer",
+                             "/srv/Smith &amp; Co/ct", "/home/wolf/DOE/a (1)'s lib.so",
+                             "“DOE JANE” cannot be opened."}) {
+        EXPECT_TRUE(marked.filter(QString::fromUtf8(word)).size() >= 1)
             << word << " in " << marked.join(u'|').toStdString();
     }
     EXPECT_FALSE(marked.contains(QStringLiteral("Box")));
     EXPECT_TRUE(marked.filter(QStringLiteral("libQt6")).isEmpty());
     const QString struck = Struck(text, ranges);
-    for (const char* gone : {"wolf", "DOE", "Smith"})
+    for (const char* gone : {"wolf", "DOE", "Smith", bytes.toBase64().constData()})
         EXPECT_FALSE(struck.contains(QLatin1String(gone))) << gone;
+    for (const char* kept : {"Nov 24", "(_ZN4Some+0x12)", "-- No entries --"})
+        EXPECT_TRUE(struck.contains(QLatin1String(kept))) << kept;
 }
 
 // What is struck once is gone wherever it stands, and the pieces still know where they begin.

@@ -6,6 +6,8 @@
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -25,7 +27,12 @@ public:
             fs::create_directories(folder.Path(name));
         fs::permissions(folder.Path("runtime"), fs::perms::owner_all);
     }
-    // With a `display` on that, else on none.
+    ~Desk()
+    {
+        for (const pid_t left : Running())
+            kill(left, SIGKILL);
+    }
+    // Null for `what`: without a path. With a `display` on that, else on none.
     [[nodiscard]] pid_t Start(const char* program = ZELORA_VIEWER, const char* what = "study",
                               const char* display = nullptr) const
     {
@@ -40,7 +47,10 @@ public:
         setenv("QT_QPA_PLATFORM", display ? "xcb" : "offscreen", 1);
         setenv("DISPLAY", display ? display : "", 1);
         setenv("QT_LOGGING_RULES", "*.warning=false", 1);
-        execl(program, program, folder.Path(what).c_str(), static_cast<char*>(nullptr));
+        if (inChild)
+            inChild();
+        const std::string path = what ? folder.Path(what) : std::string();
+        execl(program, program, what ? path.c_str() : nullptr, static_cast<char*>(nullptr));
         _exit(127);
     }
     // How it ended: its code, or 256 and the signal.
@@ -86,5 +96,18 @@ public:
         }
         return left;
     }
+    // Processes of this desk, whoever started them.
+    [[nodiscard]] std::vector<pid_t> Running() const
+    {
+        std::vector<pid_t> found;
+        for (const auto& entry : fs::directory_iterator("/proc")) {
+            std::ifstream file(entry.path() / "environ", std::ios::binary);
+            const std::string words{std::istreambuf_iterator<char>(file), {}};
+            if (words.find("XDG_CONFIG_HOME=" + folder.Path("config")) != std::string::npos)
+                found.push_back(std::stoi(entry.path().filename()));
+        }
+        return found;
+    }
     TempFolder folder;
+    std::function<void()> inChild;
 };

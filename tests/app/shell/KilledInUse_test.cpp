@@ -26,11 +26,15 @@ public:
     }
     ~Display()
     {
+        Close();
+        qunsetenv("DISPLAY");
+    }
+    void Close()
+    {
         for (QProcess* each : {&_manager, &_server}) {
             each->terminate();
             each->waitForFinished(5'000);
         }
-        qunsetenv("DISPLAY");
     }
     // One line of the tool that makes up keys and clicks.
     static void Input(const char* line)
@@ -64,10 +68,12 @@ private:
 
 void Pause(int ms) { usleep(static_cast<useconds_t>(ms) * 1000); }
 
+constexpr const char* kNoDisplay = "no virtual display here";
+
 TEST(KilledInUse, comes_back_with_first_aid_once_and_leaves_nothing)
 {
     if (!Display::IsThere())
-        GTEST_SKIP() << "no virtual display here";
+        GTEST_SKIP() << kNoDisplay;
     const Desk desk;
     const Display display;
     for (int i = 0; i < 40; ++i)
@@ -115,6 +121,50 @@ TEST(KilledInUse, comes_back_with_first_aid_once_and_leaves_nothing)
     }
     EXPECT_GE(crashes, 10);
     EXPECT_GE(desk.Preferences().value(QStringLiteral("ZELRecentDocuments")).toList().size(), 1);
+}
+
+TEST(KilledInUse, a_reset_begins_anew_without_another_first_aid)
+{
+    if (!Display::IsThere())
+        GTEST_SKIP() << kNoDisplay;
+    const Desk desk;
+    const Display display;
+    const pid_t killed = desk.Start(ZELORA_VIEWER, "study", display.name);
+    Pause(700);
+    kill(killed, SIGKILL);
+    Desk::Wait(killed);
+    const pid_t child = desk.Start(ZELORA_VIEWER, "study", display.name);
+    Pause(700);
+    EXPECT_EQ(desk.Crashes(), 1);
+    Display::Input("key Up key Return");
+    EXPECT_EQ(Desk::Wait(child), 0);
+    Pause(1000);
+    const std::vector<pid_t> again = desk.Running();
+    ASSERT_EQ(again.size(), 1u);
+    EXPECT_EQ(desk.Crashes(), 0);
+    EXPECT_EQ(desk.Preferences().value(QStringLiteral("RunCounterCurrent")).toInt(), 1);
+    kill(again.front(), SIGTERM);
+    for (int i = 0; i < 50 && !desk.Running().empty(); ++i)
+        Pause(100);
+    EXPECT_TRUE(desk.Running().empty());
+    EXPECT_FALSE(desk.HasLock());
+}
+
+// As a session that ends before its programs do.
+TEST(KilledInUse, a_display_that_goes_is_no_crash)
+{
+    if (!Display::IsThere())
+        GTEST_SKIP() << kNoDisplay;
+    const Desk desk;
+    Display display;
+    const pid_t child = desk.Start(ZELORA_VIEWER, "study", display.name);
+    Pause(700);
+    EXPECT_TRUE(desk.HasLock());
+    display.Close();
+    EXPECT_EQ(Desk::Wait(child), 1);
+    EXPECT_FALSE(desk.HasLock());
+    EXPECT_EQ(desk.RunAndQuit(), 0);
+    EXPECT_EQ(desk.Crashes(), 0);
 }
 
 }  // namespace

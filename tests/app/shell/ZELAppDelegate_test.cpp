@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
@@ -124,6 +125,40 @@ TEST_F(ViewerSession, opens_a_path_once_and_ends_with_its_last_window)
                                  window->close();
                              return true;
                          }});
+    EXPECT_EQ(code, 0);
+}
+
+// Also when one of them has gone from the list meanwhile.
+TEST_F(ViewerSession, a_recent_document_is_the_one_that_its_row_says)
+{
+    const std::string older = Image("older"), newer = Image("newer");
+    Run({older, newer}, {[&] {
+            const auto windows = Showing<ZELMainWindowController>();
+            if (windows.size() < 2)
+                return false;
+            for (ZELMainWindowController* window : windows)
+                window->close();
+            return true;
+        }});
+    std::filesystem::remove(newer);
+    const auto activate = [](int rows) {
+        const auto windows = Showing<StartWindow>();
+        auto* list = windows.empty() ? nullptr : windows.front()->findChild<QListWidget*>();
+        if (!list || list->count() != rows)
+            return false;
+        emit list->itemActivated(list->item(0));
+        return true;
+    };
+    const auto opened = [] {
+        const auto windows = Showing<ZELMainWindowController>();
+        if (windows.empty())
+            return false;
+        EXPECT_TRUE(windows.front()->windowTitle().contains(QStringLiteral("older")));
+        return windows.front()->close();
+    };
+    const int code =
+        Run({}, {[&] { return activate(2); }, [] { return CloseAlert(QStringLiteral("newer")); },
+                 [&] { return activate(1); }, opened});
     EXPECT_EQ(code, 0);
 }
 

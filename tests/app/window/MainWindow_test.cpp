@@ -53,6 +53,12 @@ TEST(MainWindow, the_list_knows_in_which_grid_a_sequence_stands)
     EXPECT_EQ(source.nodeFor(before)->gridID(), 0);
 }
 
+TEST(MainWindow, menus_name_the_program)
+{
+    OpenWindow open;
+    EXPECT_TRUE(open.Action(QStringLiteral("About Zelora Viewer")));
+}
+
 TEST(MainWindow, panes_come_and_go_and_are_remembered)
 {
     OpenWindow open;

@@ -18,9 +18,9 @@ public:
         for (const std::string& path : paths)
             log.push_back("path " + path);
     }
-    void openRecent(std::size_t index) override
+    void openRecent(const ZELRecentDocument& document) override
     {
-        log.push_back("recent " + std::to_string(index));
+        log.push_back("recent " + document.docPath);
     }
     ZELRecentDocuments& recents() override { return documents; }
     void windowClosed() override { log.push_back("closed"); }

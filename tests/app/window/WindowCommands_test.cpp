@@ -32,6 +32,8 @@ public:
     void showHideZELToolbar() override { log.push_back("top bars"); }
     bool showsMeasurementInfoBox() const override { return measurements; }
     void showHideMeasurementInfoBox() override { log.push_back("measurements"); }
+    bool showsMetadataPalette() const override { return palette; }
+    bool windowHasSheetOpen() const override { return sheet; }
     std::vector<dk_SequenceBase*> selectedSequences() const override { return selection; }
     void openAdjustColorsDialog() override { log.push_back("adjust"); }
     void updateToolbarElements() override {}
@@ -39,7 +41,7 @@ public:
     mutable MultiGridViewController grids;
     std::vector<dk_SequenceBase*> selection;
     Words log;
-    bool features = true, patients = true, measurements = true;
+    bool features = true, patients = true, measurements = true, palette = false, sheet = false;
 };
 
 struct WindowScene : Scene {
@@ -114,6 +116,11 @@ TEST(WindowCommands, can_be_chosen_by_their_rules)
              s.Measure(3);
              s.proxy().setViewShowsMeasurements(false);
          }},
+        {"the palette comes", W::MetadataPalette, true},
+        {"not over a sheet", W::MetadataPalette, false,
+         [](WindowScene& s) { s.panes.sheet = true; }},
+        {"but it can go then", W::MetadataPalette, true,
+         [](WindowScene& s) { s.panes.sheet = s.panes.palette = true; }},
         {"study info needs its pane", W::StudyInfo, false,
          [](WindowScene& s) { s.panes.patients = false; }},
         {"one selected row is no selection", W::SwitchSelectedMarked, false, select(1, 0)},
