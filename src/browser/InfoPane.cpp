@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QResizeEvent>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTableView>
@@ -92,13 +93,19 @@ QTableView* InfoPane::newTable()
 
 void InfoPane::layOutRows()
 {
-    constexpr double kMostOfTitles = 0.45;  // of the pane's width
     _theInfoView->clearSpans();
     for (int row = 0; row < _source->rowCount(); ++row) {
         _theInfoView->setRowHeight(row, _source->heightOfRow(row) + 1);  // with the line between
         if (_source->isHeading(row))
             _theInfoView->setSpan(row, 0, 1, InfoTableSource::kInfoColumns);
     }
+    fitColumns();
+}
+
+// Titles in full where values still have room.
+void InfoPane::fitColumns()
+{
+    constexpr double kMostOfTitles = 0.45;  // of the pane's width
     const QFontMetrics metrics(_theInfoView->font());
     int width = 0;
     for (int row = 0; row < _source->rowCount(); ++row) {
@@ -159,5 +166,7 @@ void InfoPane::resizeEvent(QResizeEvent* event)
     _titleBox->setGeometry(0, 0, width(), kInfoTitleHeight);
     _theInfoView->setGeometry(0, kInfoTitleHeight, width(), height() - kInfoTitleHeight);
     _theInfoView->setVisible(height() > kInfoTitleHeight);
+    if (event->oldSize().width() != width())
+        fitColumns();
     updateView();
 }

@@ -42,6 +42,7 @@ private:
     [[nodiscard]] QWidget* newTitleBox();
     [[nodiscard]] QTableView* newTable();
     void layOutRows();
+    void fitColumns();
     void copySelected() const;
     void moveDivider(int position);
 

@@ -1,5 +1,6 @@
 #include "app/shell/HelpPages.h"
 
+#include "app/window/WindowWords.h"
 #include "dicom_core/store/TempFolder.h"
 #include "platform/Words.h"
 
@@ -117,7 +118,8 @@ void ShowAcknowledgments(QWidget* over)
 void ShowAbout(QWidget* over)
 {
     const QString name = QGuiApplication::applicationDisplayName();
-    QMessageBox about(QMessageBox::NoIcon, ZelWord(kWordsMenuItems, "About"),
+    QMessageBox about(QMessageBox::NoIcon,
+                      U_FixApplicationMenuTitle(ZelWord(kWordsMenuItems, "About")),
                       QStringLiteral("%1 %2").arg(name, QCoreApplication::applicationVersion()),
                       QMessageBox::Close, over);
     about.setInformativeText(ZelWord(kWordsVendor, "AboutText"));

@@ -20,6 +20,7 @@
 
 #include "qpix/CImporterFactory.h"
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QTimer>
 #include <algorithm>
 #include <cerrno>
@@ -32,6 +33,7 @@ namespace {
 
 constexpr const char* kProgramName = "zelora-viewer";
 constexpr rlim_t kOpenFiles = 10240;
+constexpr std::chrono::seconds kPatienceForPicture{10};
 
 // As many descriptors as long folders need; the hard limit stays.
 void RaiseFileLimit()
@@ -350,6 +352,12 @@ void ZELAppDelegate::treeIsReady(std::unique_ptr<ZELDcmTree> tree, const std::st
 
 void ZELAppDelegate::saveSnapshot(ZELMainWindowController* window)
 {
+    // A picture waits for the list's thumbnails too.
+    const QDeadlineTimer patience(_snapshotPath->isEmpty() ? std::chrono::seconds(0)
+                                                           : kPatienceForPicture);
+    QCoreApplication::sendPostedEvents();
+    while (!window->listIsComplete() && !patience.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     const bool saved = _snapshotPath->isEmpty() || window->grab().save(*_snapshotPath, "PNG");
     if (!saved)
         SayProblem("can't save a picture as " + _snapshotPath->toStdString());

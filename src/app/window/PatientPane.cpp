@@ -79,6 +79,8 @@ void PatientPane::fillSlowTexts() { _source->reloadData(); }
 
 void PatientPane::holdWork(bool held) { _source->setWorkHeld(held); }
 
+bool PatientPane::isWorking() const { return _source->isTicking(); }
+
 void PatientPane::stopWork() { _source->pauseIconCalculator(); }
 
 bool PatientPane::showsStudyInfo() const { return !_info->viewIsClosed(); }

@@ -30,8 +30,9 @@ public:
     void selectRow(dk_SequenceBase* sequence);  // without revealing it
     // The window is ready: texts that need files come in.
     void fillSlowTexts();
-    void holdWork(bool held);  // thumbnails and texts wait
-    void stopWork();           // for good
+    void holdWork(bool held);              // thumbnails and texts wait
+    void stopWork();                       // for good
+    [[nodiscard]] bool isWorking() const;  // rows that show still wait for something
 
     [[nodiscard]] bool showsStudyInfo() const;
     void toggleInfoPane();

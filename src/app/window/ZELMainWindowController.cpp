@@ -214,6 +214,8 @@ void ZELMainWindowController::bringToFront()
     activateWindow();
 }
 
+bool ZELMainWindowController::listIsComplete() const { return !_patients->isWorking(); }
+
 void ZELMainWindowController::setZelWindowIsReady()
 {
     _zelWindowIsReady = true;

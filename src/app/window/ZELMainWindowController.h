@@ -41,6 +41,7 @@ public:
     void setZelWindowIsReady();
     // From now on the window changes nothing any more, and plays nothing.
     void setWindowClosing();
+    [[nodiscard]] bool listIsComplete() const;  // of what shows of it
     // Calls `painted` once: when the first frame has been painted, or, with `wholly`, all of them
     // in their final size.
     void whenPainted(bool wholly, std::function<void()> painted)
