@@ -1,16 +1,12 @@
 // Mount events of a disk service on a bus of the test's own.
 #include "platform/VolumeWatcher.h"
 
-#include <QCoreApplication>
+#include "platform/PrivateBus.h"
+
 #include <QDBusArgument>
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
-#include <QElapsedTimer>
-#include <QProcess>
-#include <QStandardPaths>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -27,13 +23,6 @@ TEST(MountPointLedger, tells_each_mount_once_until_it_has_gone)
     EXPECT_EQ(ledger.NewOnes({"/disc", "/old"}, {"/"}), (Points{"/disc", "/old"}));
 }
 
-// The bus library's own threads look like races to the thread sanitizer, which can't see into it.
-#ifdef __SANITIZE_THREAD__
-constexpr bool kBusCanBeTested = false;
-#else
-constexpr bool kBusCanBeTested = true;
-#endif
-
 TEST(VolumeWatcher, copes_without_a_bus)
 {
     if (!kBusCanBeTested)
@@ -42,30 +31,17 @@ TEST(VolumeWatcher, copes_without_a_bus)
     EXPECT_FALSE(watcher->IsWatching());
 }
 
-// A bus daemon with a connection that plays the disk service.
-class DiskServiceTest : public testing::Test {
+// A connection plays the disk service.
+class DiskServiceTest : public PrivateBusTest {
 protected:
     void SetUp() override
     {
-        if (!kBusCanBeTested || QStandardPaths::findExecutable("dbus-daemon").isEmpty())
-            GTEST_SKIP() << "no dbus-daemon, or a thread sanitizer";
-        fDaemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-        ASSERT_TRUE(fDaemon.waitForStarted() && fDaemon.waitForReadyRead());
-        fAddress = QString::fromUtf8(fDaemon.readLine()).trimmed();
-        qDBusRegisterMetaType<InterfaceMap>();
-        qDBusRegisterMetaType<QList<QByteArray>>();
-        fService =
-            std::make_unique<QDBusConnection>(QDBusConnection::connectToBus(fAddress, "service"));
-        ASSERT_TRUE(fService->registerService("org.freedesktop.UDisks2"));
-    }
-    void TearDown() override
-    {
+        PrivateBusTest::SetUp();
         if (!fService)
             return;
-        fService.reset();
-        QDBusConnection::disconnectFromBus("service");
-        fDaemon.kill();
-        fDaemon.waitForFinished();
+        qDBusRegisterMetaType<InterfaceMap>();
+        qDBusRegisterMetaType<QList<QByteArray>>();
+        ASSERT_TRUE(fService->registerService("org.freedesktop.UDisks2"));
     }
     static QVariantMap Filesystem(const QList<QByteArray>& points)
     {
@@ -87,21 +63,6 @@ protected:
         message << interface << changed << QStringList();
         fService->send(message);
     }
-    // Serves events until `wanted` calls have come.
-    void WaitFor(std::size_t wanted)
-    {
-        QElapsedTimer timer;
-        timer.start();
-        while (fSeen.size() < wanted && timer.elapsed() < 10000)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
-    }
-    int fCount = 1;
-    char fName[5] = "test";
-    char* fArguments[2] = {fName, nullptr};
-    QCoreApplication fApplication{fCount, fArguments};
-    QProcess fDaemon;
-    QString fAddress;
-    std::unique_ptr<QDBusConnection> fService;
     Points fSeen;
 };
 
@@ -118,7 +79,7 @@ TEST_F(DiskServiceTest, reports_what_is_mounted_and_nothing_else)
         SendChanged("org.freedesktop.UDisks2.Block", Filesystem({"/zelora test/wrong"}));
         SendChanged(filesystem, Filesystem({QByteArray("/zelora test/d\xEFsc\0", 18)}));
         SendAdded({{filesystem, Filesystem({QByteArray("/zelora test/second\0", 20)})}});
-        WaitFor(2);
+        WaitFor([this] { return fSeen.size() >= 2; });
         EXPECT_EQ(fSeen, (Points{"/zelora test/d\xEFsc", "/zelora test/second"}));
     }
     SendChanged(filesystem, Filesystem({"/zelora test/after the end"}));

@@ -5,9 +5,11 @@
 #include "dicom_core/look/WindowText.h"
 #include "dicom_core/opening/ZELDcmTree.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
+#include "platform/FileManager.h"
 
 #include "qpix/zelImageSource.h"
 #include <QDesktopServices>
+#include <QFile>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <filesystem>
@@ -149,10 +151,13 @@ void GridsPane::openAdjustColorsDialog()
 
 bool GridsPane::showLocalizers() const { return _grids && _grids->localizers().showLocalizers(); }
 
-void GridsPane::revealFile(const std::string& path)
+void GridsPane::revealFile(const std::string& path) { revealFiles({path}); }
+
+void GridsPane::revealFiles(const std::vector<std::string>& paths)
 {
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(folder.string())));
+    RevealInFileManager(paths, [](const std::string& folder) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(folder.c_str())));
+    });
 }
 
 std::shared_ptr<ZELSequenceProxy> GridsPane::proxyOf(dk_SequenceBase* sequence)

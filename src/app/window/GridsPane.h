@@ -79,6 +79,7 @@ public:
     void refreshToolbarItems() override { _window->updateToolbarElements(); }
     void refreshRegionsMenu() override {}  // made anew whenever it shows
     void revealFile(const std::string& path) override;
+    static void revealFiles(const std::vector<std::string>& paths);
     [[nodiscard]] ZELDcmTree* tree() const override { return _tree; }
     [[nodiscard]] std::shared_ptr<ZELSequenceProxy> proxyOf(dk_SequenceBase* sequence) override;
     void updateNodeForSequence(dk_SequenceBase* sequence) override

@@ -83,7 +83,8 @@ QListWidget* ToolBarSheet::addList(const char* title)
     auto* list = new QListWidget;
     list->setAccessibleName(Word(title));
     list->setDragDropMode(QAbstractItemView::DragDrop);
-    list->setMinimumHeight(360);  // view points: all items without scrolling
+    list->setUniformItemSizes(true);  // those without a picture are as high
+    list->setMinimumHeight(360);      // view points: all items without scrolling
     return list;
 }
 

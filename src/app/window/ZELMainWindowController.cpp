@@ -164,8 +164,7 @@ void ZELMainWindowController::doubleClickOnPatientListRow(dk_SequenceBase* seque
 
 void ZELMainWindowController::revealFiles(const std::vector<std::string>& paths)
 {
-    for (const std::string& path : paths)
-        _pane->revealFile(path);
+    GridsPane::revealFiles(paths);
 }
 
 void ZELMainWindowController::targetChanged(dk_SequenceBase* sequence)

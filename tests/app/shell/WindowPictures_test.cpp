@@ -3,9 +3,14 @@
 // each window could be made and has something in it.
 #include "app/recovery/ReportReviewWindow.h"
 #include "app/recovery/ZELFirstAidWindowController.h"
+#include "app/shell/Alerts.h"
+#include "app/shell/HelpPages.h"
 #include "app/shell/OpenPanel.h"
+#include "app/shell/OpenProgressWindow.h"
+#include "app/shell/StartWindow.h"
 #include "app/shell/ZELAppDelegate.h"
-#include "app/window/ZELMainWindowController.h"
+#include "app/window/OpenWindow.h"
+#include "app/window/ToolBarSheet.h"
 #include "app_prefs/PrefsWindow.h"
 #include "app_prefs/ZELPrefsController.h"
 #include "dicom_core/opening/OpeningFixtures.h"
@@ -39,6 +44,7 @@ QPalette DarkPalette()
              {QPalette::Base, QColor(30, 30, 30)},
              {QPalette::AlternateBase, QColor(45, 45, 45)},
              {QPalette::Text, Qt::white},
+             {QPalette::PlaceholderText, QColor(160, 160, 160)},
              {QPalette::Button, QColor(60, 60, 60)},
              {QPalette::ButtonText, Qt::white},
              {QPalette::Highlight, QColor(42, 130, 218)}})
@@ -119,6 +125,13 @@ void TakeMainWindow(const std::string& path, Pictures* pictures)
                 menu->adjustSize();
                 pictures->Take(menu, ("menu_" + std::to_string(menu->actions().size())).c_str());
             }
+            GridsPane* pane = window->pane();
+            pane->openAdjustColorsDialog();
+            pane->openGridSetupDialog(*pane->gridControllers().front());
+            for (QDialog* sheet : window->findChildren<QDialog*>()) {
+                pictures->Take(sheet, sheet->metaObject()->className());
+                sheet->reject();
+            }
             QApplication::exit();
             return;
         }
@@ -155,6 +168,40 @@ void TakeFirstAid(Pictures* pictures)
     pictures->Take(&review, "review");
 }
 
+void TakeOthers(const std::string& folder, Pictures* pictures)
+{
+    OpenPanel panel(folder, nullptr);
+    panel.show();
+    pictures->Take(&panel, "open");
+    ToolBarSheet sheet(nullptr);
+    sheet.show();
+    pictures->Take(&sheet, "tool_bar_sheet");
+    FakeApp app;
+    app.documents.U_AddZELRecentItem({1, "/srv/study", {}});
+    StartWindow start(&app);
+    start.show();
+    pictures->Take(&start, "start");
+    OpenProgressWindow progress([] {});
+    progress.setTitle(QStringLiteral("study"));
+    progress.setLabel(QStringLiteral("IM000001"));
+    progress.setValue(40);
+    progress.orderFront();
+    pictures->Take(&progress, "progress");
+    // Modal ones show themselves.
+    QTimer::singleShot(100, [pictures] {
+        QWidget* alert = QApplication::activeModalWidget();
+        pictures->Take(alert, "alert");
+        alert->close();
+    });
+    RunAlert(AlertWordsForError(kZelNoPatientInFile, QStringLiteral("IM000001")), nullptr);
+    QTimer::singleShot(100, [pictures] {
+        QWidget* about = QApplication::activeModalWidget();
+        pictures->Take(about, "about");
+        about->close();
+    });
+    ShowAbout(nullptr);
+}
+
 class WindowPictures : public testing::TestWithParam<bool> {};
 
 TEST_P(WindowPictures, of_every_window)
@@ -173,9 +220,7 @@ TEST_P(WindowPictures, of_every_window)
     TakeMainWindow(folder.Path("study"), &pictures);
     TakePreferences(&pictures);
     TakeFirstAid(&pictures);
-    OpenPanel panel(folder.Path(""), nullptr);
-    panel.show();
-    pictures.Take(&panel, "open");
+    TakeOthers(folder.Path(""), &pictures);
     QApplication::setPalette(before);
     prefs_Store().UseFile({});
 }
