@@ -36,13 +36,12 @@ void SpeedField::beginEditing(const QString& text)
 
 QString SpeedField::endEditing(const QString& typed) const
 {
-    const QString trimmed = typed.trimmed();
-    if (!IsDigits(trimmed))
+    if (!IsDigits(typed))
         return fOldText;
-    const bool changed = trimmed.isEmpty() ? fOldValue != kUsualSpeed : trimmed != fOldText;
+    const bool changed = typed.isEmpty() ? fOldValue != kUsualSpeed : typed != fOldText;
     if (!changed)
-        return trimmed.isEmpty() ? QString::number(kUsualSpeed) : trimmed;
-    prefs_Set_CineDefaultSpeed(trimmed.isEmpty() ? kUsualSpeed : SpeedOf(trimmed));
+        return typed.isEmpty() ? QString::number(kUsualSpeed) : typed;
+    prefs_Set_CineDefaultSpeed(typed.isEmpty() ? kUsualSpeed : SpeedOf(typed));
     NotificationCenter::Default().Post(kNoteFPSEnforceSpeedChanged, nullptr);
     return text();
 }

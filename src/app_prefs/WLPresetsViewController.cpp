@@ -47,7 +47,7 @@ WLPresetsViewController::~WLPresetsViewController() { delete _table; }
 
 QString WLPresetsViewController::title() const { return PrefsWord("Presets"); }
 QString WLPresetsViewController::windowTitle() const { return PrefsWord("Presets title"); }
-QString WLPresetsViewController::identifier() const { return QStringLiteral("Presets"); }
+QString WLPresetsViewController::identifier() const { return QStringLiteral("WWWLPane"); }
 QIcon WLPresetsViewController::image() const { return PrefsIcon("prefs_presets"); }
 
 QPushButton* WLPresetsViewController::addButton(const char* title, QVBoxLayout* column,

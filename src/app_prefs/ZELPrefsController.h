@@ -24,7 +24,7 @@ public:
     // null; a window that is already open comes to the front.
     void showPreferences(QWidget* near);
     void togglePreferencesWindow(QWidget* near = nullptr);
-    // The same on one pane: "General", "DICOM", "Presets" or "Updates". The one shown last for
+    // The same on one pane: "General", "DICOM", "WWWLPane" or "Updates". The one shown last for
     // another name.
     void showPane(const QString& identifier, QWidget* near = nullptr);
     // A new preset of the user's with that window, on its pane.

@@ -217,6 +217,20 @@ void ZELPatientOutlineView::mouseDoubleClickEvent(QMouseEvent* event)
         activate(index);
 }
 
+// Letters search in a list that has the keys; elsewhere they choose tools.
+bool ZELPatientOutlineView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool plain = !(key->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+        if (plain && !key->text().isEmpty() && key->text().front().isLetterOrNumber()) {
+            event->accept();
+            return true;
+        }
+    }
+    return QTreeView::event(event);
+}
+
 void ZELPatientOutlineView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)

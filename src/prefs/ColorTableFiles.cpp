@@ -40,6 +40,6 @@ std::vector<ZELCLUT> loadCLUTTables()
 {
     std::vector<ZELCLUT> tables;
     for (const ZELCLUTMenuItem& item : loadCLUTMenuItems())
-        tables.push_back({item.clutTitle.toStdString(), item.colorTable()});
+        tables.push_back({item.clutTitle.toStdString(), item.colorTable(), item.sortingType});
     return tables;
 }

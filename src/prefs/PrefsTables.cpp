@@ -1,7 +1,9 @@
 #include "prefs/PrefsTables.h"
 
+#include <algorithm>
 #include <atomic>
 #include <mutex>
+#include <numeric>
 
 namespace {
 
@@ -68,6 +70,17 @@ void prefs_SetCLUTs(std::vector<ZELCLUT> tables)
 void prefs_SetCLUTLoader(CLUTLoader load) { gLoader = load; }
 
 int prefs_GetNumberOfCLUTs() { return static_cast<int>(AskedTables().size()); }
+
+std::vector<int> prefs_GetCLUTsInMenuOrder()
+{
+    const std::vector<LoadedTable>& tables = AskedTables();
+    std::vector<int> numbers(tables.size());
+    std::iota(numbers.begin(), numbers.end(), 1);
+    std::ranges::stable_sort(numbers, {}, [&tables](int number) {
+        return tables[static_cast<std::size_t>(number) - 1].fCLUT.fMenuPosition;
+    });
+    return numbers;
+}
 
 const ColorTable* prefs_GetColorSpecs(int number)
 {

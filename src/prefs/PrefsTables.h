@@ -14,6 +14,7 @@ using ZELColorRamp = std::array<std::uint32_t, 256>;
 struct ZELCLUT {
     std::string fName;  // UTF-8
     ColorTable fTable;  // 256 entries of 16 bits a component
+    int fMenuPosition = 0;
 };
 
 // Takes the place of the tables set before; each table is brought to 256 entries, black where it
@@ -26,6 +27,8 @@ using CLUTLoader = std::vector<ZELCLUT> (*)();
 void prefs_SetCLUTLoader(CLUTLoader load);
 
 [[nodiscard]] int prefs_GetNumberOfCLUTs();
+// All numbers, by their places in menus, by number where those are the same.
+[[nodiscard]] std::vector<int> prefs_GetCLUTsInMenuOrder();
 // Null for a number below 1 or above the last, or when no tables are set. Valid until the tables
 // are set anew.
 [[nodiscard]] const ColorTable* prefs_GetColorSpecs(int number);

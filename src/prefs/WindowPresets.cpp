@@ -13,6 +13,9 @@ constexpr unsigned char kPresets[] = {
 #include "WWWLPresets.inc"
 };
 
+// Of this run only: the next start has the program's own again.
+constexpr const char* kKeyEmptied = "WWWLPresetsAreEmptied";
+
 QVariantList PresetsOfTheProgram()
 {
     const QByteArray bytes(reinterpret_cast<const char*>(kPresets), sizeof kPresets);
@@ -56,7 +59,10 @@ std::vector<ZELWWWLMenuItem> loadWWWLPresets()
 {
     // An empty list is never stored: there is none, or another thing in its place.
     const QVariantList stored = prefs_Store().Array(kPrefsKeyWWWLPresets);
-    return stored.isEmpty() ? loadWWWLPresetsOfTheProgram() : ItemsOf(stored);
+    if (!stored.isEmpty())
+        return ItemsOf(stored);
+    return prefs_Store().Bool(kKeyEmptied) ? std::vector<ZELWWWLMenuItem>()
+                                           : loadWWWLPresetsOfTheProgram();
 }
 
 std::vector<ZELWWWLMenuItem> loadWWWLPresetsOfTheProgram()
@@ -69,6 +75,7 @@ QvxStatus saveWWWLPresets(const std::vector<ZELWWWLMenuItem>& presets)
     QVariantList list;
     for (const ZELWWWLMenuItem& preset : presets)
         list.push_back(preset.dictionaryToSave());
+    prefs_Store().Override(kKeyEmptied, list.isEmpty() ? QVariant(true) : QVariant());
     if (list.isEmpty())
         prefs_Store().Remove(kPrefsKeyWWWLPresets);
     else if (const QvxStatus status = prefs_Store().Set(kPrefsKeyWWWLPresets, list))

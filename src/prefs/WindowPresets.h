@@ -18,6 +18,7 @@ struct ZELWWWLMenuItem : ZELMenuItem {
     [[nodiscard]] QVariantMap dictionaryToSave() const;
 };
 
+// None in a run in which the user has emptied the list.
 [[nodiscard]] std::vector<ZELWWWLMenuItem> loadWWWLPresets();
 // Those that come with the program, whatever is stored.
 [[nodiscard]] std::vector<ZELWWWLMenuItem> loadWWWLPresetsOfTheProgram();

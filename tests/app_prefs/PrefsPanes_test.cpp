@@ -23,7 +23,7 @@
 
 namespace {
 
-const char* const kPanes[] = {"General", "DICOM", "Presets", "Updates"};
+const char* const kPanes[] = {"General", "DICOM", "WWWLPane", "Updates"};
 
 template <class Pane>
 Pane* PaneOf(const ZELPrefsController& prefs)
@@ -56,13 +56,13 @@ TEST(ZELPrefsController, opens_on_the_pane_shown_last_and_closes_by_the_keyboard
     EXPECT_EQ(titles, QStringList({"General", "DICOM", "Presets", "Updates"}));
 
     QTest::keyClick(prefs.window(), Qt::Key_3, Qt::ControlModifier);
-    EXPECT_EQ(prefs.window()->currentPane()->identifier(), QStringLiteral("Presets"));
+    EXPECT_EQ(prefs.window()->currentPane()->identifier(), QStringLiteral("WWWLPane"));
     EXPECT_EQ(prefs.window()->windowTitle(), prefs.window()->currentPane()->windowTitle());
     QTest::keyClick(prefs.window(), Qt::Key_Escape);
     EXPECT_FALSE(prefs.isVisible());
     prefs.togglePreferencesWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(prefs.window()));
-    EXPECT_EQ(prefs.window()->currentPane()->identifier(), QStringLiteral("Presets"));
+    EXPECT_EQ(prefs.window()->currentPane()->identifier(), QStringLiteral("WWWLPane"));
     QTest::keyClick(prefs.window(), Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(prefs.isVisible());
     prefs.showPane(QStringLiteral("DICOM"));
@@ -144,7 +144,7 @@ TEST(PrefsPanes, edit_presets_in_the_table)
 {
     const OwnPrefs own;
     ZELPrefsController prefs({[](int, const QString&) { return 1000; }});
-    prefs.showPane(QStringLiteral("Presets"));
+    prefs.showPane(QStringLiteral("WWWLPane"));
     ASSERT_TRUE(QTest::qWaitForWindowActive(prefs.window()));
     auto* pane = PaneOf<WLPresetsViewController>(prefs);
     QTableView* table = pane->table();

@@ -30,7 +30,7 @@ TEST(SpeedField, corrects_what_is_no_speed)
         {"a fraction", 20, "12.5", "20", 20, false},
         {"digits of another script", 20, "\u0663\u0660", "20", 20, false},
         {"nothing", 20, "", "15", 15, true},
-        {"blanks", 20, "  ", "15", 15, true},
+        {"blanks", 20, " 25 ", "20", 20, false},
         {"nothing, as it was", 15, "", "15", 15, false},
         {"the same", 20, "20", "20", 20, false},
         {"more digits than a number has", 20, "99999999999999999999", "60", 60, true},

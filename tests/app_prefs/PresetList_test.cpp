@@ -156,6 +156,7 @@ TEST(PresetList, grows_behind_the_selection_and_forgets_an_emptied_list)
     list.removePresets({0, 1, 2});
     EXPECT_EQ(list.count(), 0);
     EXPECT_FALSE(prefs_Store().Has(kPrefsKeyWWWLPresets));
+    EXPECT_EQ(loadWWWLPresets().size(), 0u) << "up to the next start";
     own.reopen();
     EXPECT_EQ(loadWWWLPresets().size(), loadWWWLPresetsOfTheProgram().size());
 }

@@ -37,6 +37,8 @@ TEST_F(WindowPresets, are_the_users_once_stored)
     EXPECT_EQ(theirs[0].wwidth, 12.5F);
     EXPECT_EQ(theirs[1].wwidth, 0);
     ASSERT_EQ(saveWWWLPresets({}), kQvxOK);
+    EXPECT_EQ(loadWWWLPresets().size(), 0u);
+    prefs_Store().UseFile(fFolder.Path("preferences.plist"));  // as the next start
     EXPECT_EQ(loadWWWLPresets().size(), 15u);
 }
 
@@ -74,6 +76,18 @@ TEST(ColorTableFiles, hold_256_entries_and_the_registered_ends)
         EXPECT_EQ(colorAt(found->fTable, 0), row.first);
         EXPECT_EQ(colorAt(found->fTable, 255), row.last);
     }
+}
+
+TEST(ColorTableFiles, stand_in_menus_by_their_places)
+{
+    prefs_SetCLUTs(loadCLUTTables());
+    std::vector<std::string> names;
+    for (const int number : prefs_GetCLUTsInMenuOrder())
+        names.push_back(prefs_GetColorRampName(number));
+    EXPECT_EQ(names, (std::vector<std::string>{"Inverse Gray", "Hot Iron", "PET", "Hot Metal Blue",
+                                               "PET 20 Step", "Spring", "Summer", "Fall", "Winter",
+                                               "Rainbow", "Even Lightness"}));
+    prefs_SetCLUTs({});
 }
 
 // Steps of equal lightness in the sense of CIE L*, also for those who see no red or no green, as

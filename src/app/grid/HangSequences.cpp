@@ -48,8 +48,9 @@ int LayoutForOpening(const ZELDcmTree& tree)
     const int grids = NumGridsForControllerWithID(wanted);
     if (wanted != 0 && grids > 0 && grids <= tree.numberOfGoodSequencesFast())
         return wanted;
-    const int sequences =
-        wanted == 0 ? tree.numberOfHangingSequences() : tree.numberOfGoodSequencesFast();
+    if (wanted == 0)
+        return LayoutForCount(tree.numberOfHangingSequences());
+    const int sequences = tree.numberOfGoodSequencesFast();
     return sequences == 0 ? kSingleGridLayout : LayoutForCount(sequences);
 }
 
@@ -66,10 +67,12 @@ void HangSequences(MultiGridViewController* layout, const MultiGridViewControlle
         });
     };
     dk_SequenceBase* next = host->tree()->firstGoodSequence_DICOM();
-    for (Proxy& empty : proxies) {
-        while (!empty && next) {
+    // Only those that are new: one that was left empty stays so.
+    for (auto place = static_cast<std::size_t>(old ? old->numGrids() : 0); place < proxies.size();
+         ++place) {
+        while (!proxies[place] && next) {
             if (!stands(next))
-                empty = host->proxyOf(next);
+                proxies[place] = host->proxyOf(next);
             next = host->tree()->nextGoodSequence_DICOMFrom(next);
         }
     }

@@ -25,7 +25,8 @@ public:
     static constexpr std::int32_t kFrame = 0, kSequence = 1;
     static constexpr int kTagFrame = 501, kTagSequence = 502;  // of menus
 
-    ToolScope() : ObservableKeys({}) {}
+    [[nodiscard]] static ToolScope& Shared();      // the program's
+    ToolScope() : ObservableKeys({}) {}            // one of its own, for tests
     [[nodiscard]] std::int32_t toolScope() const;  // read from the preferences when first asked
     void setToolScope(std::int32_t scope);
     void changeToolScope(int menuTag);  // nothing for another tag

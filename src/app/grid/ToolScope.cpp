@@ -1,6 +1,12 @@
 #include "app/grid/ToolBox.h"
 #include "prefs/Prefs.h"
 
+ToolScope& ToolScope::Shared()
+{
+    static ToolScope scope;
+    return scope;
+}
+
 std::int32_t ToolScope::toolScope() const
 {
     if (fScope == -1)

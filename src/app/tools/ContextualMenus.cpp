@@ -181,6 +181,18 @@ MenuEntry viewContextualGeneric(ZELSequenceGridViewModelController& grid, GridHo
                 menu.commands({C::RevealFile})}));
 }
 
+std::vector<MenuEntry> SubmenuOfActiveGrid(GridHost& host, ViewerActions& actions,
+                                           const char* title)
+{
+    auto* grid = host.activeSequenceGridController();
+    if (!grid)
+        return {};
+    const MenuEntry all = viewContextualGeneric(*grid, host, actions, {});
+    const auto found =
+        std::ranges::find(all.children, ZelWord(kWordsMenuItems, title), &MenuEntry::title);
+    return found == all.children.end() ? std::vector<MenuEntry>() : found->children;
+}
+
 std::optional<MenuEntry> menuForTarget(ZELSequenceGridViewModelController& grid, GridHost& host,
                                        ViewerActions& actions, ContextualTarget& target)
 {

@@ -25,6 +25,9 @@ struct ContextualTarget {
 [[nodiscard]] MenuEntry viewContextualGeneric(ZELSequenceGridViewModelController& grid,
                                               GridHost& host, ViewerActions& actions,
                                               const ContextualTarget& target);
+// What a submenu of that holds for the active grid, by its title's key; empty where there is none.
+[[nodiscard]] std::vector<MenuEntry> SubmenuOfActiveGrid(GridHost& host, ViewerActions& actions,
+                                                         const char* title);
 // The one that fits the target: a crop counts as no measurement. None while the grid plays a cine.
 [[nodiscard]] std::optional<MenuEntry> menuForTarget(ZELSequenceGridViewModelController& grid,
                                                      GridHost& host, ViewerActions& actions,

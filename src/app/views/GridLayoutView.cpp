@@ -82,8 +82,10 @@ void GridLayoutView::U_FixSplitViewDividers()
 void GridLayoutView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    if (!std::exchange(_fitted, true))
-        U_FixSplitViewDividers();
+    if (std::exchange(_fitted, true))
+        return;
+    U_FixSplitViewDividers();
+    fitGridDims();
 }
 
 ZELDraggingSequenceGridView* GridLayoutView::viewOf(
@@ -132,5 +134,5 @@ void GridLayoutView::showNext()
 void GridLayoutView::fitGridDims()
 {
     for (ZELDraggingSequenceGridView* view : _views)
-        FitGridDimsToView(view->sequenceGridController(), view->viewport()->size());
+        FitGridDimsToView(view->sequenceGridController(), view->size());
 }

@@ -1,6 +1,8 @@
 #include "app/views/MenuFromEntries.h"
 
 #include "app/tools/GridMenuItems.h"
+#include "app/tools/OptionKey.h"
+#include "app/views/ColorRamps.h"
 #include "app/views/LayoutIcons.h"
 
 #include <QAction>
@@ -9,6 +11,8 @@
 #include <QMenu>
 
 namespace {
+
+constexpr int kRampIcon = 32;  // pixels
 
 // Titles are plain text: their ampersands are no key marks. The key stands behind a tab, where it
 // is shown but not taken, since the grid itself takes it.
@@ -37,7 +41,7 @@ void AddCommand(QMenu* menu, const MenuEntry& entry)
     action->setChecked(entry.checked);
     QObject::connect(action, &QAction::triggered, menu, [perform = entry.perform] {
         if (perform)
-            perform(QGuiApplication::keyboardModifiers().testFlag(Qt::AltModifier));
+            perform(HasOption(QGuiApplication::keyboardModifiers()));
     });
 }
 
@@ -85,5 +89,8 @@ QIcon MenuIcon(const QString& image)
 {
     if (const GridLayout* layout = LayoutOfImage(image.toStdString()))
         return LayoutIcon(*layout);
+    if (const int table = ColorTableOfImage(image))
+        return QIcon(QPixmap::fromImage(
+            colorRampImage(table).scaled(kRampIcon, kRampIcon, Qt::IgnoreAspectRatio)));
     return QIcon(QStringLiteral(":/icons/%1.svg").arg(image));
 }

@@ -1,12 +1,16 @@
-// The boxes of a window's tool bar: zoom, window width and level, frame. They show the active
-// grid's values and follow them by themselves. Main thread only.
+// The boxes of a window's secondary tool bar: zoom with its steps, window width and level, frame,
+// the rows and columns of frames. They show the active grid's values and follow them by themselves.
+// Main thread only.
 #pragma once
 #include "app/tools/ZELFrameTextBoxController.h"
 #include "app/tools/ZELWWWLTextBoxController.h"
 #include "app/tools/ZELZoomTextBoxController.h"
 #include "app/views/NumberBox.h"
 
+#include <array>
+
 class QLabel;
+class QToolButton;
 
 class ViewerBoxes final : public QWidget {
     Q_OBJECT
@@ -29,12 +33,20 @@ signals:
 private:
     NumberBox* addBox(const char* name, NumberBox::Controller controller, int columns);
     NumberBox* addWindowBox(ZELWWWLTextBoxController::Box box, bool menu);
+    QToolButton* addButton(const char* title);
+    void addZoomButtons();
+    void addGridSetupMenu();
     void refreshWindow();
+    void refreshButtons();
 
+    GridHost* _host;
+    ViewerActions* _actions;
     ZELZoomTextBoxController _zoom;
     ZELWWWLTextBoxController _window;
     ZELFrameTextBoxController _frame;
     NumberBox *_zoomBox = nullptr, *_brightnessBox = nullptr, *_contrastBox = nullptr,
               *_frameBox = nullptr;
+    std::array<QToolButton*, 3> _zoomButtons{};
+    QToolButton* gridSetupMenu = nullptr;
     QLabel *_brightnessLabel = nullptr, *_contrastLabel = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include "app/views/MenuFromEntries.h"
 #include "app/views/SequenceMime.h"
+#include "app/views/Sheets.h"
 #include "platform/NotificationCenter.h"
 
 #include <QApplication>
@@ -16,13 +17,6 @@ namespace {
 
 constexpr double kHighlightWidth = 5;  // points
 constexpr double kDragOpacity = 0.5;
-
-bool HasSheet(const QWidget& window)
-{
-    return std::ranges::any_of(window.findChildren<QDialog*>(), [](const QDialog* dialog) {
-        return dialog->isVisible() && dialog->isModal();
-    });
-}
 
 QVariant Pointer(const void* pointer) { return QVariant::fromValue(const_cast<void*>(pointer)); }
 

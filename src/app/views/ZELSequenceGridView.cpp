@@ -1,5 +1,6 @@
 #include "app/views/ZELSequenceGridView.h"
 
+#include "app/tools/OptionKey.h"
 #include "app/tools/ZELToolsController.h"
 #include "app/views/CursorPictures.h"
 #include "platform/NotificationCenter.h"
@@ -14,12 +15,6 @@
 namespace {
 
 constexpr double kSequenceDrag = 10;  // points in either axis
-
-// Some window managers keep drags with Alt for themselves.
-bool HasOption(Qt::KeyboardModifiers keys)
-{
-    return keys.testFlag(Qt::AltModifier) || keys.testFlag(Qt::MetaModifier);
-}
 
 TrackerEvent TrackerEventOf(const QMouseEvent& event)
 {

@@ -1,5 +1,6 @@
 #include "app/window/CommandActions.h"
 
+#include "app/tools/OptionKey.h"
 #include "app/views/MenuFromEntries.h"
 #include "platform/Words.h"
 
@@ -21,7 +22,7 @@ bool IsKeyOfGrids(const QKeySequence& key)
     return std::ranges::find(kKeys, key) != std::end(kKeys);
 }
 
-bool HoldsOption() { return QGuiApplication::keyboardModifiers().testFlag(Qt::AltModifier); }
+bool HoldsOption() { return HasOption(QGuiApplication::keyboardModifiers()); }
 
 }  // namespace
 
@@ -65,7 +66,7 @@ void UpdateAction(QAction* action, const WindowCommandState& state)
                                              : MenuText(state.title) + u'\t' + key.toString());
     action->setEnabled(state.enabled);
     action->setCheckable(state.mark != Mark::None);
-    action->setChecked(state.mark == Mark::On || state.mark == Mark::Mixed);
+    action->setChecked(state.mark == Mark::On);  // menus have no third state
 }
 
 QAction* AddCommandAction(QMenu* menu, const AnyCommand& command, const WindowTarget& target)

@@ -26,6 +26,10 @@ GridsPane::GridsPane(GridsWindow* window, ZELDcmTree* tree, QWidget* parent)
     _boxes = new ViewerBoxes(this, &_actions);
     _boxes->windowController().openAdjustColorsDialog = [this] { openAdjustColorsDialog(); };
     connect(_boxes, &ViewerBoxes::done, this, [this] { view()->setFocus(); });
+    _scope = ToolScope::Shared().ObserveKey("toolScope", [this](std::string_view, KeyPhase phase) {
+        if (phase == KeyPhase::DidChange)
+            _window->updateToolbarElements();
+    });
 }
 
 // Layouts go before what they name.
@@ -58,8 +62,6 @@ void GridsPane::switchToSequenceViewWithID(int layout, bool /*keepOld*/)
         old->deleteLater();
     }
     QWidget::layout()->addWidget(_layout);
-    QWidget::layout()->activate();
-    _layout->fitGridDims();
     connect(_layout, &GridLayoutView::cellsPainted, this, &GridsPane::cellsPainted);
     if (old)
         view()->becomeFirstResponder();

@@ -88,7 +88,7 @@ public:
     }
     [[nodiscard]] bool hasSingleCineSequence() const override;
     [[nodiscard]] ToolBox& toolBox() override { return *this; }
-    [[nodiscard]] ToolScope& toolScope() override { return _scope; }
+    [[nodiscard]] ToolScope& toolScope() override { return ToolScope::Shared(); }
     [[nodiscard]] CineStage& cineStage() override { return *this; }
     void callOnMainThreadAndWait(const std::function<void()>& call) override { call(); }
 
@@ -111,14 +111,13 @@ private:
 
     GridsWindow* _window;
     ZELDcmTree* _tree;
-    ToolScope _scope;
     ZELToolsController _tools;
     SelectedTool _selectedTool{this, &_tools};
     FrameNavigation _navigation;
     AnnotationLook _annotationLook{this};
     ViewerActions _actions;
     std::shared_ptr<MultiGridViewController> _grids;
-    ObservableKeys::Watch _target;
+    ObservableKeys::Watch _target, _scope;
     GridLayoutView* _layout = nullptr;  // a child
     QPointer<ViewerBoxes> _boxes;       // of the window's tool bar, which owns them
 };

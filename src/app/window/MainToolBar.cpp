@@ -1,16 +1,18 @@
 #include "app/window/MainToolBar.h"
 
 #include "app/tools/GridMenuItems.h"
+#include "app/tools/OptionKey.h"
 #include "app/views/LayoutIcons.h"
 #include "app/views/MenuFromEntries.h"
+#include "app/views/ToolIcons.h"
 #include "app/window/ToolBarItems.h"
-#include "app/window/ToolIcons.h"
 #include "platform/Words.h"
 
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QToolButton>
+#include <algorithm>
 
 namespace {
 
@@ -21,6 +23,13 @@ using Mark = WindowCommandState::Mark;
 constexpr int kSpaceWidth = 12;  // view points
 
 QString Word(const char* key) { return ZelWord(kWordsMenuItems, key); }
+
+// Layouts of one grid, of two, of three in two parts, in a row, of four in two parts.
+bool EndsGroup(int layout)
+{
+    static constexpr int kLast[] = {651, 653, 657, 659, 663};
+    return std::ranges::find(kLast, layout) != std::end(kLast);
+}
 
 QString TipOf(const WindowCommandState& state)
 {
@@ -86,7 +95,7 @@ void MainToolBar::addButton(const Button& button, const char* icon, const char* 
     if (menuForm)
         action->setData(Word(menuForm));
     connect(action, &QAction::triggered, this, [this, command = button.command] {
-        Perform(command, _target, QGuiApplication::keyboardModifiers().testFlag(Qt::AltModifier));
+        Perform(command, _target, HasOption(QGuiApplication::keyboardModifiers()));
         updateToolbarElements();
     });
     _buttons.push_back({action, button.command, button.isOn});
@@ -116,8 +125,10 @@ void MainToolBar::addLayouts()
     connect(menu, &QMenu::aboutToShow, menu, [this, menu] {
         std::vector<MenuEntry> entries;
         for (int tag = kFirstLayoutTag; const LayoutMenuItem& item : kLayoutMenuItems) {
-            entries.push_back(EntryOf({G::SwitchLayout, tag++}, _target));
+            entries.push_back(EntryOf({G::SwitchLayout, tag}, _target));
             entries.back().image = QString::fromLatin1(item.image);
+            if (EndsGroup(tag++ + kLayoutMenuOffset))
+                entries.emplace_back();
         }
         FillMenu(menu, entries);
     });

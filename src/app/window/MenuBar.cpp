@@ -4,6 +4,7 @@
 #include "app/tools/GridMenuItems.h"
 #include "app/tools/TargetWatch.h"
 #include "app/tools/ZELWWWLTextBoxController.h"
+#include "app/views/ColorRamps.h"
 #include "app/window/CommandActions.h"
 #include "app/window/DocumentIcon.h"
 #include "app/window/WindowWords.h"
@@ -15,6 +16,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <algorithm>
 
 namespace {
@@ -95,14 +97,7 @@ void FillRecentMenu(QMenu* menu, AppCommands* app)
 // One of the submenus that the right button shows too.
 std::function<Entries()> GridSubmenu(const WindowTarget& target, const char* title)
 {
-    return [target, title]() -> Entries {
-        auto* grid = target.host->activeSequenceGridController();
-        if (!grid)
-            return {};
-        const MenuEntry all = viewContextualGeneric(*grid, *target.host, *target.actions, {});
-        const auto found = std::ranges::find(all.children, Word(title), &MenuEntry::title);
-        return found == all.children.end() ? Entries() : found->children;
-    };
+    return [target, title] { return SubmenuOfActiveGrid(*target.host, *target.actions, title); };
 }
 
 std::function<Entries()> ColorTables(const WindowTarget& target)
@@ -111,8 +106,10 @@ std::function<Entries()> ColorTables(const WindowTarget& target)
         Entries entries;
         entries.push_back(EntryOf({W::SetColorTable, 0}, target));
         entries.push_back({});
-        for (int table = 1; table <= prefs_GetNumberOfCLUTs(); ++table)
+        for (const int table : prefs_GetCLUTsInMenuOrder()) {
             entries.push_back(EntryOf({W::SetColorTable, table + 1}, target));
+            entries.back().image = ImageOfColorTable(table);
+        }
         return entries;
     };
 }
@@ -124,9 +121,12 @@ std::function<Entries()> WindowList(AppCommands* app, const QWidget* self)
         for (QWidget* window : app->viewerWindows()) {
             MenuEntry entry;
             entry.kind = MenuEntry::Kind::Command;
-            entry.title = window->windowTitle();
+            entry.title =
+                window->windowTitle().replace(QLatin1String("[*][*]"), QLatin1String("[*]"));
             entry.checked = window == self;
-            entry.perform = [window](bool) {
+            entry.perform = [window = QPointer(window)](bool) {
+                if (!window)
+                    return;
                 window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
                 window->raise();
                 window->activateWindow();
@@ -268,7 +268,6 @@ std::vector<MenuEntry> U_UpdateRegionsMenuFor(const WindowTarget& target)
     const ZELSequenceProxy* proxy = TargetWatch::SequenceOf(*target.host);
     Entries entries = {EntryOf({W::WholeImage}, target),    Heading(Word("User Selection")),  {},
                        EntryOf({W::PropagateCrop}, target), EntryOf({W::ClearCrops}, target), {}};
-    entries[0].enabled = proxy && proxy->isGood();
     const auto* regions = proxy ? proxy->usRegions() : nullptr;
     if (!regions || regions->empty()) {
         entries.push_back(Heading(Word("No regions found")));

@@ -2,7 +2,7 @@
 
 #include "app/tools/TargetWatch.h"
 #include "app/views/LayoutIcons.h"
-#include "app/window/ToolIcons.h"
+#include "app/views/ToolIcons.h"
 #include "platform/NotificationCenter.h"
 #include "prefs/Prefs.h"
 

@@ -165,6 +165,20 @@ bool FrameHasCrop(const T& t)
     return Target(t) && Target(t)->cropForFrame(ZELSequenceProxy::kCurrentFrame);
 }
 
+// Of a list that has the keys, or of the image.
+bool CanSelectAll(const T& t)
+{
+    return t.panes->canSelectAllRows() || (FrameHasCrop(t) && NoCineInTheGrid(t));
+}
+
+void SelectAll(const T& t)
+{
+    if (t.panes->canSelectAllRows())
+        t.panes->selectAllRows();
+    else
+        t.actions->selectWholeImage();
+}
+
 bool CanPropagateCrop(const T& t)
 {
     return FrameHasCrop(t) && Tree<&ZELDcmTree::hasMoreThanOneGoodSequences>(t);
@@ -238,14 +252,11 @@ bool IsPresentScope(const T& t)
         t.tag == ToolScope::kTagSequence ? ToolScope::kSequence : ToolScope::kFrame;
     return t.host->toolScope().toolScope() == scope;
 }
-void ChangeScope(const T& t)
-{
-    t.host->toolScope().changeToolScope(t.tag);
-    t.host->refreshToolbarItems();
-}
+void ChangeScope(const T& t) { t.host->toolScope().changeToolScope(t.tag); }
 
 // ---- cine ----
 
+bool HasPlayer(const T& t) { return t.host->cineStage().isAvailable(); }
 bool IsLoop(const T&) { return prefs_CineDoLoop(); }
 bool IsSweep(const T&) { return prefs_CineDoSweep(); }
 bool IsAutoplay(const T&) { return prefs_HasCineAutoplay(); }
@@ -295,8 +306,8 @@ constexpr Row kRows[] = {
     {C::Anonymize, kPlain, "Anonymize...", nullptr, nullptr, Can<Feature::Anonymize>, Always, DoNothing},
     {C::Print, kPlain, "Print...", nullptr, nullptr, Can<Feature::Print>, Always, DoNothing, "Ctrl+P"},
     {C::FullScreen, kTurned, "Enter Full Screen", "Exit Full Screen", Is<&W::isInFullScreen>, Always, Always, Do<&W::zelToggleFullScreen>, "F11"},
-    {C::Toolbar, kTurned, "Show Toolbar", "Hide Toolbar", Is<&W::showsToolbar>, Always, Always, Do<&W::zelToggleToolbar>, "Ctrl+Alt+T"},
-    {C::CustomizeToolbar, kPlain, "Customize Toolbar...", nullptr, nullptr, Is<&W::showsToolbar>, Always, Do<&W::customizeToolbar>},
+    {C::Toolbar, kTurned, "Show Toolbar", "Hide Toolbar", Is<&W::showsToolbar>, Always, Always, Do<&W::zelToggleToolbar>, "Ctrl+Shift+B"},
+    {C::CustomizeToolbar, kPlain, "Customize Toolbar...", nullptr, nullptr, Always, Always, Do<&W::customizeToolbar>},
     {C::PatientList, kTurned, "Show Patient List", "Hide Patient List", Is<&W::showsPatientList>, Always, Always, Do<&W::showHidePatientList>, "F9"},
     {C::StudyInfo, kTurned, "Show Study Info", "Hide Study Info", Is<&W::showsStudyInfo>, Is<&W::showsPatientList>, Always, Do<&W::showHideStudyInfo>, "Shift+F9"},
     {C::SecondaryToolbar, kTurned, "Show Secondary Toolbar", "Hide Secondary Toolbar", Is<&W::showsZELToolbar>, Always, Always, Do<&W::showHideZELToolbar>, "Ctrl+Shift+T"},
@@ -321,16 +332,16 @@ constexpr Row kRows[] = {
     {C::DeleteMeasurement, kPlain, "Delete Measurement", nullptr, nullptr, CanDelete, kStill, Delete},
     {C::DeleteAllMeasurements, kPlain, "Delete All Measurements", nullptr, nullptr, FrameHasMeasurements, kStill, DeleteAll},
     {C::ReferenceLines, kTurned, "Show Reference Lines", "Hide Reference Lines", ShowsLines, CanShowLines, Always, SwitchLines, "Ctrl+Shift+L"},
-    {C::SelectAll, kPlain, "Select All", nullptr, nullptr, FrameHasCrop, kStill, Actions<&A::selectWholeImage>, "Ctrl+A"},
+    {C::SelectAll, kPlain, "Select All", nullptr, nullptr, CanSelectAll, Always, SelectAll, "Ctrl+A"},
     {C::WholeImage, kChecked, "Whole Image", nullptr, HasNoCrops, FrameHasCrop, kStill, Actions<&A::selectWholeImage>},
     {C::PropagateCrop, kPlain, "Propagate Crop", nullptr, nullptr, CanPropagateCrop, kStill, PropagateCrop},
     {C::ClearCrops, kPlain, "Clear Crop in All Series", nullptr, nullptr, Tree<&D::hasCrops>, kStill, ClearCrops},
     {C::SelectTool, kChecked, nullptr, nullptr, IsPresentTool, IsTool, Always, SelectTool},
     {C::ChangeToolScope, kChecked, nullptr, nullptr, IsPresentScope, Always, Always, ChangeScope},
-    {C::CineLoop, kChecked, "Loop", nullptr, IsLoop, NoCineAtAll, Always, SwitchLoop},
-    {C::CineSweep, kChecked, "Sweep", nullptr, IsSweep, NoCineAtAll, Always, SwitchSweep},
-    {C::AutoplayCine, kChecked, "Play Automatically", nullptr, IsAutoplay, Always, Always, SwitchAutoplay},
-    {C::PlaylistTraverse, kChecked, "Play Next Series", nullptr, TraversesList, CanTraverseList, Always, SwitchTraverse},
+    {C::CineLoop, kChecked, "Loop", nullptr, IsLoop, NoCineAtAll, HasPlayer, SwitchLoop},
+    {C::CineSweep, kChecked, "Sweep", nullptr, IsSweep, NoCineAtAll, HasPlayer, SwitchSweep},
+    {C::AutoplayCine, kChecked, "Play Automatically", nullptr, IsAutoplay, Always, HasPlayer, SwitchAutoplay},
+    {C::PlaylistTraverse, kChecked, "Play Next Series", nullptr, TraversesList, CanTraverseList, HasPlayer, SwitchTraverse},
 };
 
 struct ToolRow {

@@ -33,6 +33,9 @@ public:
 
     // Of the rows that are selected in the list, those of sequences.
     [[nodiscard]] virtual std::vector<dk_SequenceBase*> selectedSequences() const = 0;
+    // Where a list has the keys its rows can be selected, all of them.
+    [[nodiscard]] virtual bool canSelectAllRows() const = 0;
+    virtual void selectAllRows() = 0;
     virtual void openAdjustColorsDialog() = 0;
     virtual void updateToolbarElements() = 0;
 };

@@ -1,6 +1,7 @@
 #include "app/window/ZELMainWindowController.h"
 
 #include "app/tools/ZELWWWLTextBoxController.h"
+#include "app/views/Sheets.h"
 #include "app/window/AppCommands.h"
 #include "app/window/DocumentIcon.h"
 #include "app/window/DroppedPaths.h"
@@ -105,7 +106,7 @@ void ZELMainWindowController::layOut()
 void ZELMainWindowController::setUpBoxes()
 {
     ZELWWWLTextBoxController& values = _pane->boxes()->windowController();
-    values.editPresetsAction = [this] { _app->showPreferencesPane("Presets"); };
+    values.editPresetsAction = [this] { _app->showPreferencesPane("WWWLPane"); };
     values.makePresetAction = [this] {
         if (const ZELSequenceProxy* proxy = _pane->proxy())
             _app->offerPreset(static_cast<float>(proxy->currentWWBrightness()),
@@ -149,11 +150,7 @@ std::vector<dk_SequenceBase*> ZELMainWindowController::sequencesInGrids() const
     return shown;
 }
 
-bool ZELMainWindowController::windowHasSheetOpen() const
-{
-    const QWidget* modal = QApplication::activeModalWidget();
-    return modal && isAncestorOf(modal);
-}
+bool ZELMainWindowController::windowHasSheetOpen() const { return HasSheet(*this); }
 
 bool ZELMainWindowController::inQTModalMode() const { return _app->inQTModalMode(); }
 

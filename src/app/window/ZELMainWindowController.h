@@ -89,6 +89,8 @@ private:
     void showHideMeasurementInfoBox() override {}  // comes with measurements
     [[nodiscard]] bool showsMetadataPalette() const override { return false; }
     [[nodiscard]] std::vector<dk_SequenceBase*> selectedSequences() const override;
+    [[nodiscard]] bool canSelectAllRows() const override;
+    void selectAllRows() override;
     void openAdjustColorsDialog() override { _pane->openAdjustColorsDialog(); }
     void updateToolbarElements() override;
 

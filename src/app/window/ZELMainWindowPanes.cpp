@@ -5,6 +5,7 @@
 #include "app/window/ZELMainWindowController.h"
 #include "prefs/Prefs.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPointer>
 
@@ -30,6 +31,17 @@ MultiGridViewController& ZELMainWindowController::multiGridController() const
 std::vector<dk_SequenceBase*> ZELMainWindowController::selectedSequences() const
 {
     return _patients->selectedSequences();
+}
+
+bool ZELMainWindowController::canSelectAllRows() const
+{
+    return qobject_cast<QAbstractItemView*>(focusWidget());
+}
+
+void ZELMainWindowController::selectAllRows()
+{
+    if (auto* list = qobject_cast<QAbstractItemView*>(focusWidget()))
+        list->selectAll();
 }
 
 void ZELMainWindowController::keepingFocus(const std::function<void()>& change)
@@ -60,6 +72,8 @@ void ZELMainWindowController::zelToggleToolbar()
 
 void ZELMainWindowController::customizeToolbar()
 {
+    if (!showsToolbar())
+        zelToggleToolbar();
     auto* sheet = new ToolBarSheet(this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->open();

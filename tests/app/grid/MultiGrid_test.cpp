@@ -84,7 +84,7 @@ TEST(MultiGrid, opens_in_a_layout_for_its_sequences)
     };
     for (const Row& row :
          {Row{1, 0, 651}, Row{2, 0, 653}, Row{3, 0, 656}, Row{5, 0, 664}, Row{3, 659, 659},
-          Row{3, 664, 656}, Row{2, 660, 653}, Row{5, 668, 664}, Row{0, 664, 651}}) {
+          Row{3, 664, 656}, Row{2, 660, 653}, Row{5, 668, 664}, Row{0, 664, 651}, Row{0, 0, 664}}) {
         MadeTree made(std::vector<SeriesForm>(row.sequences, SeriesForm{.frames = 1}));
         prefs_Set_SequenceInitialGridArrangement(row.wanted);
         EXPECT_EQ(LayoutForOpening(made.tree), row.layout) << row.sequences << " " << row.wanted;
@@ -112,6 +112,12 @@ TEST(MultiGrid, keeps_sequences_when_the_layout_changes)
         window.grids->setActiveSequenceGridController(window.grids->gridWithNumber(row.active));
         window.Open(row.to);
         EXPECT_EQ(window.Shown(), row.shown) << row.fault;
+    }
+    {
+        Layouts window(653);
+        window.grids->gridWithNumber(2)->setCurrZELSequence(nullptr);
+        window.Open(652);
+        EXPECT_EQ(window.Shown(), "[1]-") << "as many grids bring nothing in";
     }
     Layouts window(653);
     window.grids->changeSequenceTo(window.Proxy(3), *window.grids->gridWithNumber(1));

@@ -106,7 +106,7 @@ TEST(KeyboardWalk, comes_by_every_control)
         EXPECT_FALSE(window->isVisible());
     }
     ZELPrefsController preferences({});
-    for (const char* pane : {"General", "DICOM", "Presets", "Updates"}) {
+    for (const char* pane : {"General", "DICOM", "WWWLPane", "Updates"}) {
         SCOPED_TRACE(pane);
         preferences.showPane(QString::fromLatin1(pane));
         ExpectWalkByEverything(preferences.window());

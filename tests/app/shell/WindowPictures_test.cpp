@@ -147,7 +147,7 @@ void TakeMainWindow(const std::string& path, Pictures* pictures)
 void TakePreferences(Pictures* pictures)
 {
     ZELPrefsController preferences({});
-    for (const char* pane : {"General", "DICOM", "Presets", "Updates"}) {
+    for (const char* pane : {"General", "DICOM", "WWWLPane", "Updates"}) {
         preferences.showPane(QString::fromLatin1(pane));
         pictures->Take(preferences.window(), pane);
     }

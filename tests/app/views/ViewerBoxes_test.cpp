@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QSlider>
 #include <QSpinBox>
+#include <QToolButton>
 
 namespace {
 
@@ -128,6 +129,33 @@ TEST(AdjustSheet, moves_the_picture_and_puts_it_back)
     EXPECT_EQ(all.Record(1).voiLevel, 77);
     EXPECT_EQ(all.Record(1, 12).voiLevel, 77) << "the whole sequence";
     prefs_Set_BnCDialogPreview(true);
+}
+
+TEST(ViewerBoxes, buttons_step_the_zoom_and_show_the_rows_and_columns)
+{
+    Boxed all;
+    const auto press = [&](const char* name) {
+        for (QToolButton* button : all.boxes->findChildren<QToolButton*>()) {
+            if (button->accessibleName() == QLatin1String(name))
+                return button->click();
+        }
+        ADD_FAILURE() << name;
+    };
+    press("Normal Size");
+    EXPECT_FLOAT_EQ(all.Target().currentZoom(), 100);
+    press("Enlarge");
+    const float larger = all.Target().currentZoom();
+    EXPECT_GT(larger, 100);
+    press("Reduce");
+    EXPECT_LT(all.Target().currentZoom(), larger);
+    auto* setup = all.boxes->findChild<QToolButton*>(QStringLiteral("gridSetupMenu"));
+    emit setup->menu()->aboutToShow();
+    for (QAction* action : setup->menu()->actions()) {
+        if (action->text() == QLatin1String("3 x 4"))
+            action->trigger();
+    }
+    all.boxes->refresh();
+    EXPECT_EQ(setup->text(), QStringLiteral("3 × 4"));
 }
 
 }  // namespace

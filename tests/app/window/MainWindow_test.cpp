@@ -27,6 +27,53 @@ TEST(MainWindow, opens_the_layout_that_its_sequences_fill)
     }
 }
 
+// By the size that they really have.
+TEST(MainWindow, tall_grids_have_more_rows_and_wide_ones_more_columns)
+{
+    for (const auto& [layout, rows, columns] : {std::tuple{653, 3, 2}, std::tuple{652, 2, 3}}) {
+        OpenWindow open({{.frames = 6}, {.frames = 6}},
+                        [&] { prefs_Set_SequenceInitialGridArrangement(layout); });
+        for (const auto* grid : open.window->pane()->gridControllers()) {
+            EXPECT_EQ(grid->viewport().gridRows(), rows) << layout;
+            EXPECT_EQ(grid->viewport().gridCols(), columns) << layout;
+        }
+        // Also where the layout changes later.
+        open.Choose(layout == 653 ? QStringLiteral("2 rows") : QStringLiteral("2 columns"));
+        QTest::qWait(30);
+        for (const auto* grid : open.window->pane()->gridControllers())
+            EXPECT_EQ(grid->viewport().gridRows(), columns) << layout;
+    }
+    prefs_Set_SequenceInitialGridArrangement(0);
+}
+
+TEST(MainWindow, scope_is_one_for_all_windows)
+{
+    OpenWindow one, other;
+    ToolScope::Shared().setToolScope(ToolScope::kFrame);
+    EXPECT_TRUE(other.Button("tool_scope_frame")->isChecked());
+    one.Button("tool_scope_sequence")->trigger();
+    EXPECT_TRUE(other.Button("tool_scope_sequence")->isChecked());
+    EXPECT_TRUE(other.window->pane()->toolScope().isSequence());
+    EXPECT_EQ(prefs_ToolScope(), ToolScope::kSequence);
+}
+
+TEST(MainWindow, keys_in_the_list_are_the_lists)
+{
+    OpenWindow open;
+    auto* list = open.window->findChild<ZELPatientOutlineView*>();
+    open.window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(open.window.get()));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(list->selectedNodes().size(), 3u);
+    const int before = open.window->pane()->tools().currentTool();
+    QTest::keyClick(list, Qt::Key_P);
+    EXPECT_EQ(open.window->pane()->tools().currentTool(), before);
+    open.window->pane()->view()->setFocus();
+    QTest::keyClick(open.window->pane()->view(), Qt::Key_P);
+    EXPECT_NE(open.window->pane()->tools().currentTool(), before);
+}
+
 TEST(MainWindow, keeps_the_active_sequence_when_grids_go)
 {
     OpenWindow open;

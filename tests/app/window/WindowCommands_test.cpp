@@ -35,13 +35,16 @@ public:
     bool showsMetadataPalette() const override { return palette; }
     bool windowHasSheetOpen() const override { return sheet; }
     std::vector<dk_SequenceBase*> selectedSequences() const override { return selection; }
+    bool canSelectAllRows() const override { return rows; }
+    void selectAllRows() override { log.push_back("all rows"); }
     void openAdjustColorsDialog() override { log.push_back("adjust"); }
     void updateToolbarElements() override {}
 
     mutable MultiGridViewController grids;
     std::vector<dk_SequenceBase*> selection;
     Words log;
-    bool features = true, patients = true, measurements = true, palette = false, sheet = false;
+    bool features = true, patients = true, measurements = true, palette = false, sheet = false,
+         rows = false;
 };
 
 struct WindowScene : Scene {
@@ -133,6 +136,7 @@ TEST(WindowCommands, can_be_chosen_by_their_rules)
         {"nothing is marked", W::UnmarkAll, false},
         {"no crop", W::SelectAll, false},
         {"a crop", W::SelectAll, true, crop},
+        {"a list with the keys", W::SelectAll, true, [](WindowScene& s) { s.panes.rows = true; }},
         {"a crop goes to other sequences", W::PropagateCrop, true, crop},
         {"a crop while it plays", W::WholeImage, false,
          [&](WindowScene& s) {

@@ -1,4 +1,4 @@
-#include "app/window/ToolIcons.h"
+#include "app/views/ToolIcons.h"
 
 #include <QFile>
 #include <QGuiApplication>
