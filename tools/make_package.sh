@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 [[ -f build/release/build.ninja ]] || cmake --preset release
-cmake --build --preset release --target zel_viewer zel_tool
+cmake --build --preset release --target zel_viewer zel_tool zel_package_files
 (cd build/release && cpack -G DEB >/dev/null)
 package=$(ls -t build/release/packages/*.deb | head -1)
 
