@@ -1,5 +1,7 @@
 #include "pixels/RowPool.h"
 
+#include "util/SignalStack.h"
+
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -56,6 +58,7 @@ private:
 
     void Serve()
     {
+        const SignalStack stack;
         std::unique_lock<std::mutex> lock(fLock);
         while (fWork.wait_for(lock, kIdle, [this] { return fNext < fParts; }))
             TakeParts(&lock);

@@ -1,6 +1,7 @@
 #include "app/recovery/CrashHandler.h"
 
 #include "platform/Folders.h"
+#include "util/SignalStack.h"
 
 #include <array>
 #include <atomic>
@@ -11,7 +12,6 @@
 #include <exception>
 #include <execinfo.h>
 #include <fcntl.h>
-#include <memory>
 #include <string_view>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -21,7 +21,6 @@ namespace {
 
 constexpr std::array kSignals = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
 constexpr int kMostFrames = 64;
-constexpr std::size_t kStackSize = 64 * 1024;
 constexpr unsigned kPatience_s = 10;
 
 // All that the handler touches is made before; it may call nothing that isn't safe in a signal.
@@ -144,12 +143,7 @@ bool InstallCrashHandler(const std::string& folder, const std::string& programNa
     std::memcpy(gPathStart, start.c_str(), start.size() + 1);
     void* frame = nullptr;
     backtrace(&frame, 1);  // loads what it needs, which a handler may not
-    // A stack of its own: one that has overflowed holds no handler.
-    static const auto stack = std::make_unique<char[]>(kStackSize);
-    stack_t other{};
-    other.ss_sp = stack.get();
-    other.ss_size = kStackSize;
-    sigaltstack(&other, nullptr);
+    static const SignalStack stack;
     gWrites = true;
     struct sigaction action{};
     action.sa_sigaction = OnCrash;

@@ -4,6 +4,7 @@
 #include "dicom_core/imaging/DecodeFrame.h"
 #include "dicom_core/imaging/LoadFrame.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
+#include "util/SignalStack.h"
 
 #include "qpix/OffscreenForFrame.h"
 #include "qpix/zelImageSource.h"
@@ -103,6 +104,7 @@ void DecodeAhead::Forget()
 
 void DecodeAhead::Work()
 {
+    const SignalStack stack;
     Opened opened;
     std::unique_lock lock(fMutex);
     for (;;) {

@@ -1,5 +1,7 @@
 #include "dicom_core/opening/HeaderAhead.h"
 
+#include "util/SignalStack.h"
+
 #include <algorithm>
 #include <exception>
 #include <sys/resource.h>
@@ -36,6 +38,7 @@ void HeaderAhead::StartThreads(std::size_t wanted)
 
 void HeaderAhead::Work()
 {
+    const SignalStack stack;
     for (;;) {
         const std::size_t block = fNextBlock.fetch_add(1, std::memory_order_relaxed);
         if (block >= BlockCount() || !WaitForRoom(block))

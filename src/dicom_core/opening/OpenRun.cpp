@@ -1,6 +1,7 @@
 #include "dicom_core/opening/OpenRun.h"
 
 #include "dicom_core/progress/ProgressHandshake.h"
+#include "util/SignalStack.h"
 
 #include <system_error>
 #include <thread>
@@ -16,6 +17,7 @@ std::int8_t threadedOpenWithParams(std::unique_ptr<OpenSettings> settings,
     std::thread worker;
     try {
         worker = std::thread([&] {
+            const SignalStack stack;
             blockOpenProc(settings.get());
             handshake.Finish(settings.get());
         });

@@ -4,6 +4,7 @@
 #include "app/recovery/CrashReports.h"
 #include "app/recovery/Relaunch.h"
 #include "fixtures/TempFolder.h"
+#include "util/SignalStack.h"
 
 #include <csignal>
 #include <filesystem>
@@ -11,6 +12,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -47,6 +49,13 @@ TEST(CrashHandler, writes_a_trace_and_dies_of_the_same_signal)
         {SIGABRT, [] { std::abort(); }},
         {SIGABRT, [] { []() noexcept { throw 1; }(); }},
         {SIGSEGV, [] { std::exit(Deeper(0)); }},  // no stack is left
+        {SIGSEGV,
+         [] {
+             std::thread([] {
+                 const SignalStack stack;
+                 std::exit(Deeper(0));
+             }).join();
+         }},
     };
     for (const Row& row : rows) {
         TempFolder folder;
