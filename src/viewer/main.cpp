@@ -5,6 +5,7 @@
 // With ZELORA_SNAPSHOT=FILE.png in the environment it saves a picture of the first window there and
 // ends; with QT_QPA_PLATFORM=offscreen too it does so without a display.
 #include "app/recovery/CrashHandler.h"
+#include "app/shell/DisplayGone.h"
 #include "app/shell/ZELAppDelegate.h"
 #include "platform/Folders.h"
 #include "platform/HandOver.h"
@@ -75,6 +76,7 @@ int main(int argc, char** argv)
     const std::string dataFolder = UserDataFolder();
     if (!snapshot && !dataFolder.empty())
         InstallCrashHandler(dataFolder + "/CrashReports", "zelora-viewer");
+    EndInOrderWithoutDisplay();
     int programName = 1;  // the rest is paths, in which Qt would look for options of its own
     QApplication application(programName, argv);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Zelora Viewer"));

@@ -79,7 +79,8 @@ void RemoveLockAtExit()
 
 void NoteForExit(const std::string& lock)
 {
-    [[maybe_unused]] static const int registered = std::atexit(RemoveLockAtExit);
+    [[maybe_unused]] static const bool registered =
+        std::atexit(RemoveLockAtExit) == 0 && std::at_quick_exit(RemoveLockAtExit) == 0;
     if (lock.size() < gLockAtExit.size())
         std::memcpy(gLockAtExit.data(), lock.c_str(), lock.size() + 1);
 }

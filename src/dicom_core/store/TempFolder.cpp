@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -36,6 +37,7 @@ std::string FolderName(int attempt)
 std::unique_ptr<PrivateFolder>& Folder()
 {
     static std::unique_ptr<PrivateFolder> sFolder;
+    [[maybe_unused]] static const int sRegistered = std::at_quick_exit(RemoveProgramTempFolder);
     return sFolder;
 }
 

@@ -47,7 +47,7 @@ TEST(CrashHandler, writes_a_trace_and_dies_of_the_same_signal)
     const Row rows[] = {
         {SIGSEGV, [] { raise(SIGSEGV); }},
         {SIGABRT, [] { std::abort(); }},
-        {SIGABRT, [] { []() noexcept { throw 1; }(); }},
+        {SIGABRT, [] { [](void (*f)()) noexcept { f(); }([] { throw 1; }); }},
         {SIGSEGV, [] { std::exit(Deeper(0)); }},  // no stack is left
         {SIGSEGV,
          [] {

@@ -3,6 +3,7 @@
 
 #include <QProcess>
 #include <QStandardPaths>
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -53,9 +54,6 @@ public:
         }
         return true;
     }
-    QByteArray name;
-
-private:
     static void Run(QProcess* process)
     {
         process->setStandardErrorFile(QProcess::nullDevice());
@@ -63,10 +61,20 @@ private:
         process->start();
         EXPECT_TRUE(process->waitForStarted());
     }
+    QByteArray name;
+
+private:
     QProcess _server, _manager;
 };
 
 void Pause(int ms) { usleep(static_cast<useconds_t>(ms) * 1000); }
+
+bool HasFrames(const Desk& desk)
+{
+    return std::ranges::any_of(desk.LeftInCaches(), [](const std::string& path) {
+        return path.find("/ZeloraZEL Temp_") != std::string::npos;
+    });
+}
 
 constexpr const char* kNoDisplay = "no virtual display here";
 
@@ -110,8 +118,9 @@ TEST(KilledInUse, comes_back_with_first_aid_once_and_leaves_nothing)
         const int code = Desk::Wait(child);
         EXPECT_TRUE(code == 256 + SIGKILL || code == 0);
         crashes += desk.HasLock() ? 1 : 0;
-        if (std::string_view(moment.use) == "a pane goes")  // so keys do arrive
+        if (std::string_view(moment.use) == "a pane goes") {  // so keys do arrive
             EXPECT_FALSE(desk.Preferences().value(QStringLiteral("ShowPatientListPane")).toBool());
+        }
         EXPECT_EQ(desk.RunAndQuit(), 0);
         EXPECT_EQ(desk.Crashes(), crashes);
         EXPECT_FALSE(desk.HasLock());
@@ -163,8 +172,44 @@ TEST(KilledInUse, a_display_that_goes_is_no_crash)
     display.Close();
     EXPECT_EQ(Desk::Wait(child), 1);
     EXPECT_FALSE(desk.HasLock());
+    EXPECT_FALSE(HasFrames(desk));
     EXPECT_EQ(desk.RunAndQuit(), 0);
     EXPECT_EQ(desk.Crashes(), 0);
+}
+
+// There the toolkit leaves no time for an end.
+TEST(KilledInUse, a_compositor_that_goes_is_no_crash)
+{
+    if (QStandardPaths::findExecutable(QStringLiteral("weston")).isEmpty())
+        GTEST_SKIP() << kNoDisplay;
+    Desk desk;
+    const std::string runtime = desk.folder.Path("runtime");
+    QProcess server;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), QString::fromStdString(runtime));
+    server.setProcessEnvironment(environment);
+    server.setProgram(QStringLiteral("weston"));
+    server.setArguments({QStringLiteral("--backend=headless-backend.so"),
+                         QStringLiteral("--use-pixman"), QStringLiteral("--no-config"),
+                         QStringLiteral("--socket=wayland-test")});
+    Display::Run(&server);
+    desk.inChild = [] {
+        setenv("QT_QPA_PLATFORM", "wayland", 1);
+        setenv("WAYLAND_DISPLAY", "wayland-test", 1);
+        unsetenv("QT_LOGGING_RULES");
+    };
+    for (int i = 0; i < 500 && !fs::exists(runtime + "/wayland-test"); ++i)
+        Pause(10);
+    const pid_t child = desk.Start();
+    for (int i = 0; i < 500 && !desk.HasLock(); ++i)
+        Pause(10);
+    Pause(500);
+    EXPECT_TRUE(HasFrames(desk));
+    server.kill();
+    EXPECT_EQ(Desk::Wait(child), 1);
+    EXPECT_FALSE(desk.HasLock());
+    EXPECT_FALSE(HasFrames(desk));
+    EXPECT_TRUE(server.waitForFinished(5'000));
 }
 
 }  // namespace

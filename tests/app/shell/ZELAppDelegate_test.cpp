@@ -288,7 +288,7 @@ TEST_F(ViewerSession, windows_may_close_while_another_path_is_opened)
         const auto windows = Showing<ZELMainWindowController>();
         if (windows.empty())
             return false;
-        delegate->takeOver({folder.Path("many")});
+        EXPECT_TRUE(delegate->takeOver({folder.Path("many")}));
         QTimer::singleShot(0, windows.front(), &QWidget::close);
         return true;
     };
@@ -332,8 +332,8 @@ TEST_F(ViewerSession, counts_its_starts_and_hears_of_other_starts)
     const auto another = [&] {
         if (Showing<ZELMainWindowController>().empty())
             return false;
-        delegate->takeOver({second});
-        delegate->takeOver({});
+        EXPECT_TRUE(delegate->takeOver({second}));
+        EXPECT_TRUE(delegate->takeOver({}));
         return true;
     };
     const auto both = [] {
