@@ -3,6 +3,7 @@
 //   bench_respond
 #include "CTFiles.h"
 #include "PairedRatio.h"
+#include "Pulse.h"
 #include "app/shell/OpenProgressWindow.h"
 #include "app/shell/ZELAppDelegate.h"
 #include "app/window/ZELMainWindowController.h"
@@ -18,27 +19,6 @@
 namespace {
 
 constexpr double kLimit = 50;  // ms
-
-// Ticks as often as the event loop comes round, and keeps the longest pause.
-class Pulse {
-public:
-    Pulse()
-    {
-        fTimer.setInterval(0);
-        QObject::connect(&fTimer, &QTimer::timeout, [this] {
-            fLongest = std::max(fLongest, static_cast<double>(fSince.nsecsElapsed()) / 1e6);
-            fSince.start();
-        });
-        fSince.start();
-        fTimer.start();
-    }
-    [[nodiscard]] double Longest() const { return fLongest; }
-
-private:
-    QTimer fTimer;
-    QElapsedTimer fSince;
-    double fLongest = 0;  // ms
-};
 
 bool HasWindow()
 {

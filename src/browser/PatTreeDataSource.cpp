@@ -10,6 +10,7 @@
 PatTreeDataSource::PatTreeDataSource(BrowserHost* host, QObject* parent)
     : QAbstractItemModel(parent), _host(host), _iconSize(prefs_PreviewPictSize())
 {
+    _work.pixelsAreReady = [this](DicomElemChildNode* node) { return pixelsAreReady(node); };
     _work.createPreviewIconFor = [this](DicomElemChildNode* node) { createPreviewIconFor(node); };
     _work.updateTextsFor = [this](DicomElemChildNode* node) { updateTextsFor(node); };
     for (QTimer* timer : {&_iconCalculator, &_recalculator, &_noteTimer})
@@ -47,6 +48,8 @@ void PatTreeDataSource::setupWithDicomTree(ZELDcmTree* tree)
     beginResetModel();
     pauseIconCalculator();
     _work.clear();
+    _ahead.Forget();
+    _awaited = nullptr;
     if (_tree)
         _tree->setSequenceProxies(nullptr);
     _tree = tree;
@@ -157,6 +160,8 @@ void PatTreeDataSource::prepareNodeIcon()
     } while (tick == IconWorkQueue::Tick::Worked && !slow && spent.elapsed() < kIconTickWork_ms);
     if (tick == IconWorkQueue::Tick::Worked)
         scheduleTick();
+    else if (tick == IconWorkQueue::Tick::Preparing)
+        _iconCalculator.start(kPreparingTick_ms);
     else if (tick == IconWorkQueue::Tick::Waiting)
         _iconCalculator.start(kIconTick_ms);
 }

@@ -3,12 +3,14 @@
 // tree's proxies, which nodes own. The tree and the host outlive it. Main thread only.
 //
 // On a tree of slow media a tick comes every 0.3 s and does one job. On any other, ticks follow one
-// another through the event loop while there is work, and each goes on for up to 12 ms.
+// another through the event loop while there is work, and each goes on for up to 12 ms. What takes
+// long of a thumbnail, reading slow media and decoding large frames, is done on another thread.
 #pragma once
 #include "app/nodes/IconWorkQueue.h"
 #include "app/nodes/NodeTree.h"
 #include "browser/BrowserHost.h"
 #include "browser/RowLook.h"
+#include "dicom_core/imaging/DecodeAhead.h"
 #include "dicom_core/opening/OpenObserver.h"
 #include "platform/NotificationCenter.h"
 
@@ -22,6 +24,8 @@
 class ZELDcmTree;
 
 inline constexpr int kIconTick_ms = 300, kIconTickWork_ms = 12;
+inline constexpr int kPreparingTick_ms = 5;  // while pixels are on their way
+inline constexpr std::int64_t kDecodedAtOnce = std::int64_t{1} << 20;  // pixels of a frame
 inline constexpr int kColorsReload_ms = 500;
 inline constexpr std::size_t kThumbnailsLimit = std::size_t{256} << 20;  // bytes
 inline constexpr int kLeastThumbnails = 256;  // more than can be seen at a time
@@ -106,6 +110,8 @@ signals:
 
 private:
     void prepareNodeIcon();  // the tick
+    [[nodiscard]] bool pixelsAreReady(DicomElemChildNode* node);
+    [[nodiscard]] bool takesLong(dk_SequenceBase* sequence, std::int32_t frame) const;
     void createPreviewIconFor(DicomElemChildNode* node);
     void updateTextsFor(DicomElemChildNode* node);
     void scheduleTick();
@@ -129,6 +135,8 @@ private:
     DicomElemChildNode* fTargetDicomNode = nullptr;
     int _iconSize;
     IconWorkQueue _work;
+    DecodeAhead _ahead;
+    const DicomElemChildNode* _awaited = nullptr;  // whose frame is decoded
     QTimer _iconCalculator, _recalculator, _noteTimer;
     std::unordered_set<const DicomElemChildNode*> _notedRows;
     bool _notedHeights = false;

@@ -3,6 +3,9 @@
 #include "app/nodes/RepresentativeFrame.h"
 #include "browser/BrowserNotifications.h"
 #include "browser/PatTreeDataSource.h"
+#include "dicom_core/imaging/LoadFrame.h"
+#include "dicom_core/opening/ZELDcmTree.h"
+#include "dicom_core/tree/dk_ImageFrameInfo.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
 #include "util/Log.h"
 
@@ -157,6 +160,35 @@ QString PatTreeDataSource::toolTipOf(const QModelIndex& index) const
 }
 
 // ---- what becomes ready -------------------------------------------------------------------------
+
+// False while another thread decodes its frame.
+bool PatTreeDataSource::pixelsAreReady(DicomElemChildNode* node)
+{
+    dk_SequenceBase* sequence = node->sequence();
+    const std::int32_t frame = sequence->GetRepresentativeFrameNumber();
+    if (_awaited != node) {
+        _ahead.Collect(nullptr, 0);  // of rows that were more urgent before
+        if (!takesLong(sequence, frame))
+            return true;
+        _ahead.Request(sequence, {&frame, 1});
+    }
+    _awaited = _ahead.IsPending(sequence, frame) ? node : nullptr;
+    if (!_awaited)
+        _ahead.Collect(sequence, frame);
+    return !_awaited;
+}
+
+// Where it takes a thread, since the time it takes can't be cut.
+bool PatTreeDataSource::takesLong(dk_SequenceBase* sequence, std::int32_t frame) const
+{
+    dk_ImageFrameInfo* info = sequence->GetImageFrameInfo(frame);
+    if (!info || !info->fSource || CheckIfCellInBaseBuffer(sequence, frame))
+        return false;
+    if (_tree && _tree->isOnSlowMedia())
+        return true;
+    Point size;
+    return !info->GetFrameSize(&size) && std::int64_t{size.h} * size.v > kDecodedAtOnce;
+}
 
 void PatTreeDataSource::createPreviewIconFor(DicomElemChildNode* node)
 {

@@ -1,9 +1,12 @@
 // Rows in each mode, and the work behind them.
 #include "app/grid/MultiGridViewController.h"
+#include "app/nodes/RepresentativeFrame.h"
 #include "app/views/SequenceMime.h"
 #include "browser/BrowserFixture.h"
+#include "dicom_core/store/TempFolder.h"
 
 #include <QAbstractItemModelTester>
+#include <filesystem>
 
 namespace {
 
@@ -124,6 +127,60 @@ TEST(PatTreeDataSource, takes_its_time_on_slow_media)
     EXPECT_EQ(browser.Missing(), 8);
     LetEventsRun(kIconTick_ms);
     EXPECT_EQ(browser.Missing(), 7) << "one job a tick";
+}
+
+// Frames that take another thread, more than it keeps; the last one can't be drawn.
+TEST(PatTreeDataSource, large_frames_are_decoded_elsewhere_and_never_left_waiting)
+{
+    constexpr int kSide = 1100, kSequences = 9, kBroken = 8;
+    Browser browser;
+    const Quiet quiet;
+    setenv("XDG_CACHE_HOME", browser.made.folder.Path("caches").c_str(), 1);
+    zel_ImageBuffer buffer;
+    gAppBaseBuffer = &buffer;
+    browser.source.setupWithDicomTree(nullptr);
+    ZELDcmTree tree;
+    dk_DicomBaseElem* study =
+        MadeTree::Add<dk_Study>(MadeTree::Add<dk_Patient>(tree.patientTreeRoot()));
+    std::string broken;
+    for (int i = 0; i < kSequences; ++i) {
+        DicomBuilder file;
+        file.Meta(kUidExplicitLittle).CommonHeader("MG").Image({.rows = kSide, .columns = kSide});
+        const std::string path = browser.made.folder.WriteFile(
+            "film" + std::to_string(i),
+            file.NativePixels(std::string(2 * kSide * kSide, static_cast<char>('a' + i))).Bytes());
+        auto* sequence = MadeTree::Add<dk_Sequence>(MadeTree::Add<dk_Series>(study));
+        ASSERT_EQ(MadeTree::Add<dk_ImageFile>(sequence)->SetSourceFile(FileRef{path}, kImportDicom),
+                  kQvxOK);
+        if (i == kBroken)
+            broken = path;
+    }
+    browser.source.setupWithDicomTree(&tree);
+    std::filesystem::resize_file(broken, 400);
+    const std::vector<DicomElemChildNode*>& nodes = browser.source.sequenceNodes();
+    const auto missing = [&] {
+        return std::ranges::count_if(nodes, &DicomElemChildNode::iconMissing);
+    };
+    // The user scrolls: whenever a row's frame is ready, another row is the most urgent.
+    for (int i = 0; i < kSequences; ++i) {
+        static_cast<void>(browser.source.willDisplayCell(browser.Row(i), 52, false));
+        QTest::qSleep(3 * kPreparingTick_ms);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_GT(missing(), 0);
+    for (int i = 0; missing() > 0 && i < 1000; ++i)
+        LetEventsRun(5);
+    EXPECT_EQ(missing(), 0);
+    for (int i = 0; i < kSequences; ++i) {
+        const QImage own = U_RepresentativeFrameImageFor(nodes[i]->sequence(), false);
+        EXPECT_EQ(nodes[i]->repIcon().convertToFormat(own.format()), own) << i;
+        EXPECT_EQ(CheckIfCellInBaseBuffer(nodes[i]->sequence(), 1), i != kBroken) << i;
+    }
+    browser.source.setupWithDicomTree(nullptr);
+    gAppBaseBuffer = nullptr;
+    buffer.Reset();
+    RemoveProgramTempFolder();
+    unsetenv("XDG_CACHE_HOME");
 }
 
 TEST(PatTreeDataSource, shows_placeholders_while_the_window_starts)

@@ -69,6 +69,8 @@ IconWorkQueue::Tick IconWorkQueue::doWorkQuantumWithObject(std::size_t index, bo
     const bool text = job._workLevel == kTextWork && job._sequenceNode->textMissing();
     if (!icon && !text)
         return Tick::Idle;  // it stays
+    if (icon && !textOnly && pixelsAreReady && !pixelsAreReady(job._sequenceNode))
+        return Tick::Preparing;
     fIconWorkArray.erase(place);
     if (icon && textOnly) {
         fIconWorkArray.push_back(job);

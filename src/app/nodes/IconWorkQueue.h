@@ -26,11 +26,15 @@ public:
         bool textOnly = false;   // rows have no thumbnails
     };
     enum class Tick {
-        Stopped,  // nothing is expected any more, or work is paused
-        Idle,     // nothing to do until a job comes
-        Waiting,  // jobs are there, for a later tick
-        Worked,   // one job is done
+        Stopped,    // nothing is expected any more, or work is paused
+        Idle,       // nothing to do until a job comes
+        Waiting,    // jobs are there, for a later tick
+        Preparing,  // a thumbnail's pixels are on their way
+        Worked,     // one job is done
     };
+    // Asked before a thumbnail is made: false, and its job keeps its place until another tick. May
+    // be left empty.
+    std::function<bool(DicomElemChildNode*)> pixelsAreReady;
     // Called for a job that is done; the first must set the node's icon, the second its text flag.
     std::function<void(DicomElemChildNode*)> createPreviewIconFor, updateTextsFor;
 

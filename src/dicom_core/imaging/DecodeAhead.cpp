@@ -3,6 +3,7 @@
 #include "dicom_core/imaging/BufferedFacts.h"
 #include "dicom_core/imaging/DecodeFrame.h"
 #include "dicom_core/imaging/LoadFrame.h"
+#include "dicom_core/store/TempFolder.h"
 #include "dicom_core/tree/dk_SequenceBase.h"
 #include "util/SignalStack.h"
 
@@ -16,8 +17,18 @@ namespace {
 
 // Frames finished and not fetched: with more the thread waits, as nobody pages.
 constexpr std::size_t kMostFrames = 6;
+constexpr std::size_t kBlockBytes = std::size_t{1} << 18;  // more than a row of any image
 
 }  // namespace
+
+// Leaves the offscreen where they can't be written: with less kept, they may be.
+void DecodeAhead::WritePixels(const std::string& path, Opened* opened, Frame* frame)
+{
+    const Port& port = *frame->offscreen->GetGWorldPtr();
+    opened->block.resize(kBlockBytes);
+    if (!frame->pixels.Write(port, port.bounds, path, opened->block))
+        frame->offscreen.reset();
+}
 
 DecodeAhead::~DecodeAhead()
 {
@@ -49,7 +60,10 @@ void DecodeAhead::Request(dk_SequenceBase* sequence, std::span<const std::int32_
             continue;
         auto source = std::make_unique<zelImageSource>();
         source->ImportFromSource(*sequence->GetImageFrameInfo(frame)->fSource);
-        jobs.push_back({*key, std::move(source)});
+        std::string path;
+        if (gAppBaseBuffer->IsOnDisk())
+            std::ignore = NewTempFile(&path);
+        jobs.push_back({*key, std::move(source), std::move(path)});
     }
     const std::lock_guard lock(fMutex);
     std::erase_if(jobs, [this](const Job& job) {
@@ -86,12 +100,24 @@ void DecodeAhead::Collect(dk_SequenceBase* sequence, std::int32_t frame)
     }
     fWanted.notify_one();
     for (Frame& each : frames) {
-        if (!each.offscreen || !gAppBaseBuffer)
-            continue;
-        std::ignore = StoreDecodedFrame(gAppBaseBuffer, each.offscreen.get(), each.key.primary,
-                                        each.key.secondary, kStorePriorityShown, kInsertLimitShown,
-                                        each.facts ? &*each.facts : nullptr);
+        const auto [primary, secondary] = each.key;
+        const zelDPIFRecord* facts = each.facts ? &*each.facts : nullptr;
+        if (each.pixels && gAppBaseBuffer)
+            std::ignore =
+                StoreWrittenFrame(gAppBaseBuffer, std::move(each.pixels), primary, secondary,
+                                  kStorePriorityShown, kInsertLimitShown, facts);
+        else if (each.offscreen && gAppBaseBuffer)
+            std::ignore =
+                StoreDecodedFrame(gAppBaseBuffer, each.offscreen.get(), primary, secondary,
+                                  kStorePriorityShown, kInsertLimitShown, facts);
     }
+}
+
+bool DecodeAhead::IsPending(dk_SequenceBase* sequence, std::int32_t frame)
+{
+    const auto key = KeyOf(sequence, frame);
+    const std::lock_guard lock(fMutex);
+    return key && (fInWork == key || std::ranges::find(fJobs, *key, &Job::key) != fJobs.end());
 }
 
 void DecodeAhead::Forget()
@@ -128,7 +154,7 @@ void DecodeAhead::Work()
 
 DecodeAhead::Frame DecodeAhead::Decode(Opened* opened, Job job)
 {
-    Frame failed{job.key, nullptr, std::nullopt}, frame{job.key, nullptr, std::nullopt};
+    Frame failed{job.key, {}, nullptr, std::nullopt}, frame{job.key, {}, nullptr, std::nullopt};
     if (opened->secondary != job.key.secondary || !opened->source) {
         opened->codec.reset();
         opened->source = std::move(job.source);
@@ -153,6 +179,8 @@ DecodeAhead::Frame DecodeAhead::Decode(Opened* opened, Job job)
                 return failed;
             frame.facts = facts;
         }
+        if (!job.path.empty())
+            WritePixels(job.path, opened, &frame);
     } catch (const std::exception&) {  // of memory, or of a library
         return failed;
     }

@@ -1,8 +1,9 @@
-// Decodes on a thread of its own what will be shown next, so that paging finds frames in the base
-// buffer. The thread works on sources of its own and knows nothing of the tree; buffer and tree
-// stay the main thread's, on which all operations are called.
+// Decodes on a thread of its own what will be shown next, and writes it as the base buffer keeps
+// it, so that whoever shows it finds it there. The thread works on sources of its own and knows
+// nothing of the tree; buffer and tree stay the main thread's, on which all operations are called.
 #pragma once
 #include "dicom_core/look/zelDPIFRecord.h"
+#include "dicom_core/store/zel_ImageBuffer.h"
 #include "pixels/zel_Offscreen.h"
 
 #include "qpix/DicomCodec.h"
@@ -14,7 +15,9 @@
 #include <mutex>
 #include <optional>
 #include <span>
+#include <string>
 #include <thread>
+#include <vector>
 
 class dk_SequenceBase;
 
@@ -31,9 +34,11 @@ public:
     void Request(dk_SequenceBase* sequence, std::span<const std::int32_t> frames);
     // Puts finished frames into the base buffer, before `frame` is decoded by whoever asks. If that
     // one is in work it is waited for, as that ends sooner than decoding it again; if it is only
-    // wanted it is no more. A frame that failed is dropped: whoever
-    // shows it meets the fault itself.
+    // wanted it is no more. Without a sequence nothing is waited for. A frame that failed is
+    // dropped: whoever shows it meets the fault itself.
     void Collect(dk_SequenceBase* sequence, std::int32_t frame);
+    // It is wanted or in work.
+    [[nodiscard]] bool IsPending(dk_SequenceBase* sequence, std::int32_t frame);
     void Forget();  // drops what is wanted, in work and finished
 
 private:
@@ -44,10 +49,12 @@ private:
     struct Job {
         Key key;
         std::unique_ptr<zelImageSource> source;
+        std::string path;  // for its pixels; empty without
     };
     struct Frame {
         Key key;
-        std::unique_ptr<zel_Offscreen> offscreen;  // null: failed
+        WrittenPixels pixels;
+        std::unique_ptr<zel_Offscreen> offscreen;  // where they couldn't be written
         std::optional<zelDPIFRecord> facts;
     };
     // What the thread keeps between frames of one file.
@@ -55,11 +62,14 @@ private:
         std::int32_t secondary = 0;
         std::unique_ptr<DicomCodec> codec;
         std::unique_ptr<zelImageSource> source;
+        std::vector<std::uint8_t> block;  // through which pixels are written
     };
 
     [[nodiscard]] static std::optional<Key> KeyOf(dk_SequenceBase* sequence, std::int32_t frame);
     [[nodiscard]] bool StartThread();
     void Work();
+    static void WritePixels(const std::string& path, Opened* opened, Frame* frame);
+    // Null pixels and offscreen: failed.
     [[nodiscard]] static Frame Decode(Opened* opened, Job job);
 
     std::mutex fMutex;

@@ -40,6 +40,17 @@ QvxStatus DecodeThroughCodec(CImporterPlus* importer, DicomCodec* codec, zel_Off
     return status;
 }
 
+ImageInsertionParams ParamsOf(std::int32_t primary, std::int32_t secondary,
+                              std::uint32_t storePriority, std::uint32_t insertLimit)
+{
+    ImageInsertionParams params;
+    params.primaryID = primary;
+    params.secondaryID = secondary;
+    params.storagePriority = storePriority;
+    params.makeRoomLimit = insertLimit;
+    return params;
+}
+
 }  // namespace
 
 bool IsDicomGrayFrame(std::uint32_t properties)
@@ -59,13 +70,19 @@ QvxStatus StoreDecodedFrame(zel_ImageBuffer* buffer, zel_Offscreen* offscreen, s
                             std::int32_t secondary, std::uint32_t storePriority,
                             std::uint32_t insertLimit, const zelDPIFRecord* facts)
 {
-    ImageInsertionParams params;
+    ImageInsertionParams params = ParamsOf(primary, secondary, storePriority, insertLimit);
     params.source = offscreen->GetGWorldPtr();
-    params.primaryID = primary;
-    params.secondaryID = secondary;
-    params.storagePriority = storePriority;
-    params.makeRoomLimit = insertLimit;
     if (const QvxStatus status = buffer->UpdateImage(params))
+        return status;
+    return facts ? StoreBufferedFacts(buffer, primary, secondary, *facts) : kQvxOK;
+}
+
+QvxStatus StoreWrittenFrame(zel_ImageBuffer* buffer, WrittenPixels pixels, std::int32_t primary,
+                            std::int32_t secondary, std::uint32_t storePriority,
+                            std::uint32_t insertLimit, const zelDPIFRecord* facts)
+{
+    if (const QvxStatus status = buffer->TakeImage(
+            std::move(pixels), ParamsOf(primary, secondary, storePriority, insertLimit)))
         return status;
     return facts ? StoreBufferedFacts(buffer, primary, secondary, *facts) : kQvxOK;
 }

@@ -25,3 +25,8 @@ class CImporterPlus;
                                           std::int32_t primary, std::int32_t secondary,
                                           std::uint32_t storePriority, std::uint32_t insertLimit,
                                           const zelDPIFRecord* facts);
+// The same for one that has been written already.
+[[nodiscard]] QvxStatus StoreWrittenFrame(zel_ImageBuffer* buffer, WrittenPixels pixels,
+                                          std::int32_t primary, std::int32_t secondary,
+                                          std::uint32_t storePriority, std::uint32_t insertLimit,
+                                          const zelDPIFRecord* facts);

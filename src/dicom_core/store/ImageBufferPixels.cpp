@@ -89,7 +89,39 @@ ImageBufferInfo InfoOf(const ImageInsertionParams& params, std::uint32_t type)
     return info;
 }
 
+QvxStatus StorePortTileToDiskPix(const Port& source, const Rect& rect, DiskPix* disk,
+                                 std::span<std::uint8_t> block)
+{
+    const std::int64_t leftBits = std::int64_t{rect.left - source.bounds.left} * source.pixelSize;
+    if (leftBits % 8 != 0)
+        return kQvxBadArgument;
+    const std::uint8_t* first = source.baseAddr +
+                                std::ptrdiff_t{rect.top - source.bounds.top} * source.rowBytes +
+                                leftBits / 8;
+    const auto set = source.pixelFormat == kPixelFormatARGB32 ? DiskPixSetTilePixelsARGBtoRGB
+                                                              : DiskPixSetTilePixelsEx;
+    return set(disk, AtOrigin(rect), first, source.rowBytes, block);
+}
+
 }  // namespace
+
+QvxStatus WrittenPixels::Write(const Port& port, const Rect& rect, const std::string& path,
+                               std::span<std::uint8_t> block)
+{
+    const std::uint32_t format = GWorldPixelFormatToDiskPixPixelFormat(port.pixelFormat);
+    DiskPixDispose(&fDisk);
+    fBytes = BytesOfPixels(format, rect);
+    if (const QvxStatus status =
+            DiskPixQTIFCreate(&fDisk, path, format, WidthOf(rect), HeightOf(rect),
+                              TableForFile(port, port.pixelFormat), kResolution, kResolution))
+        return status;
+    if (const QvxStatus status = StorePortTileToDiskPix(port, rect, fDisk.get(), block)) {
+        DiskPixDispose(&fDisk);
+        return status;
+    }
+    DiskPixCloseFileRef(fDisk.get());
+    return kQvxOK;
+}
 
 // What no image can be made of. `rect` is the part of the port that is stored.
 QvxStatus zel_ImageBuffer::CheckInsertion(const ImageInsertionParams& params, Rect* rect) const
@@ -137,27 +169,35 @@ QvxStatus zel_ImageBuffer::CreateWithRoom(std::int64_t bytes, std::uint32_t limi
 QvxStatus zel_ImageBuffer::AddNewImage_DiskPix_Pixmap(const ImageInsertionParams& params,
                                                       const Rect& rect)
 {
-    const Port& port = *params.source;
-    const std::uint32_t format = GWorldPixelFormatToDiskPixPixelFormat(port.pixelFormat);
-    const std::int64_t bytes = BytesOfPixels(format, rect);
-    ImageBufferInfo info = InfoOf(params, kBufferOnDisk);
+    const std::int64_t bytes = BytesOfPixels(params.source->pixelFormat, rect);
+    WrittenPixels pixels;
     const auto create = [&]() -> QvxStatus {
         std::string path;
         if (const QvxStatus status = NewTempFile(&path))
             return status;
-        return DiskPixQTIFCreate(&info.fDisk, path, format, WidthOf(rect), HeightOf(rect),
-                                 TableForFile(port, port.pixelFormat), kResolution, kResolution);
+        return pixels.Write(*params.source, rect, path, IOBuffer());
     };
     if (const QvxStatus status = CreateWithRoom(bytes, params.makeRoomLimit, create))
         return status;
-    if (const QvxStatus status = StoreGWorldTileToDiskPix(port, rect, info.fDisk.get())) {
-        DiskPixDispose(&info.fDisk);
+    return InsertWritten(std::move(pixels), InfoOf(params, kBufferOnDisk));
+}
+
+QvxStatus zel_ImageBuffer::TakeImage(WrittenPixels pixels, const ImageInsertionParams& params)
+{
+    if (!pixels || params.primaryID == 0 || !IsOnDisk() ||
+        Find(params.primaryID, params.secondaryID))
+        return kQvxBadArgument;
+    if (const QvxStatus status = MakeRoom(pixels.fBytes, params.makeRoomLimit))
         return status;
-    }
-    DiskPixCloseFileRef(info.fDisk.get());
-    info.fWidth = WidthOf(rect);
-    info.fHeight = HeightOf(rect);
-    info.fBytes = bytes;
+    return InsertWritten(std::move(pixels), InfoOf(params, kBufferOnDisk));
+}
+
+QvxStatus zel_ImageBuffer::InsertWritten(WrittenPixels pixels, ImageBufferInfo info)
+{
+    info.fDisk = std::move(pixels.fDisk);
+    info.fWidth = info.fDisk->fWidth;
+    info.fHeight = info.fDisk->fHeight;
+    info.fBytes = pixels.fBytes;
     return Insert(std::move(info));
 }
 
@@ -204,20 +244,6 @@ QvxStatus zel_ImageBuffer::AddNewImage_MemBuf(const ImageInsertionParams& params
     return Insert(std::move(info));
 }
 
-QvxStatus zel_ImageBuffer::StoreGWorldTileToDiskPix(const Port& source, const Rect& rect,
-                                                    DiskPix* disk)
-{
-    const std::int64_t leftBits = std::int64_t{rect.left - source.bounds.left} * source.pixelSize;
-    if (leftBits % 8 != 0)
-        return kQvxBadArgument;
-    const std::uint8_t* first = source.baseAddr +
-                                std::ptrdiff_t{rect.top - source.bounds.top} * source.rowBytes +
-                                leftBits / 8;
-    const auto set = source.pixelFormat == kPixelFormatARGB32 ? DiskPixSetTilePixelsARGBtoRGB
-                                                              : DiskPixSetTilePixelsEx;
-    return set(disk, AtOrigin(rect), first, source.rowBytes, IOBuffer());
-}
-
 QvxStatus zel_ImageBuffer::UpdateImage(const Port& source, const Rect& rect, std::int32_t primary,
                                        std::int32_t secondary)
 {
@@ -259,7 +285,7 @@ QvxStatus zel_ImageBuffer::UpdateInPlace(const ImageInsertionParams& params, con
         status = open.Status();
         Touch(info);
         if (!status)
-            status = StoreGWorldTileToDiskPix(*params.source, rect, info->fDisk.get());
+            status = StorePortTileToDiskPix(*params.source, rect, info->fDisk.get(), IOBuffer());
     }
     // Half a picture is none.
     if (status)

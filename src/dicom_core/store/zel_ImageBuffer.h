@@ -43,6 +43,28 @@ struct ImageInsertionParams {
     std::span<const std::byte> bytes;
 };
 
+// Pixels in a file as a buffer on disk keeps them, not yet of any buffer: written on whatever
+// thread has them, so that the main thread needn't. Deletes the file unless a buffer has taken it.
+class WrittenPixels {
+public:
+    WrittenPixels() = default;
+    ~WrittenPixels() { DiskPixDispose(&fDisk); }
+    WrittenPixels(WrittenPixels&&) = default;
+    WrittenPixels& operator=(WrittenPixels&&) = default;
+
+    // `rect` of the port, a whole number of bytes from its left edge, to a new file at `path`,
+    // through `block`, larger than a row where the port has 32 bits. The codes of DiskPix.h; after
+    // a failure there is no file.
+    [[nodiscard]] QvxStatus Write(const Port& port, const Rect& rect, const std::string& path,
+                                  std::span<std::uint8_t> block);
+    explicit operator bool() const { return fDisk != nullptr; }
+
+private:
+    friend class zel_ImageBuffer;
+    DiskPixPtr fDisk;  // closed
+    std::int64_t fBytes = 0;
+};
+
 struct ImageBufferInfo {
     static constexpr std::uint32_t kLocked = 1;  // lock bit: must not be disposed
     static constexpr std::uint32_t kStale = 1;   // flag of the grids
@@ -90,6 +112,10 @@ public:
     [[nodiscard]] QvxStatus UpdateImage(const ImageInsertionParams& params);
     [[nodiscard]] QvxStatus UpdateImage(const Port& source, const Rect& rect, std::int32_t primary,
                                         std::int32_t secondary);
+    // Adds what has been written; only ids, priority and limit of `params` matter. What isn't taken
+    // is deleted. kQvxBadArgument for a buffer in memory too.
+    [[nodiscard]] QvxStatus TakeImage(WrittenPixels pixels, const ImageInsertionParams& params);
+    [[nodiscard]] bool IsOnDisk() const { return fType == kBufferOnDisk; }
     // Into `rect` of the target (null: all of it), scaled if it has another size.
     [[nodiscard]] QvxStatus DrawImageByID(std::int32_t primary, std::int32_t secondary,
                                           Port* target, const Rect* rect);
@@ -154,8 +180,7 @@ private:
     [[nodiscard]] QvxStatus AddNewImage_DiskPix_Compressed(const ImageInsertionParams& params);
     [[nodiscard]] QvxStatus AddNewImage_MemBuf(const ImageInsertionParams& params,
                                                const Rect& rect);
-    [[nodiscard]] QvxStatus StoreGWorldTileToDiskPix(const Port& source, const Rect& rect,
-                                                     DiskPix* disk);
+    [[nodiscard]] QvxStatus InsertWritten(WrittenPixels pixels, ImageBufferInfo info);
     [[nodiscard]] QvxStatus UpdateInPlace(const ImageInsertionParams& params, const Rect& rect,
                                           ImageBufferInfo* info);
     [[nodiscard]] QvxStatus DrawDisk(DiskPix* disk, Port* target, const Rect& rect);

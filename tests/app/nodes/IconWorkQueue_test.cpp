@@ -115,6 +115,26 @@ TEST(IconWorkQueue, says_whether_another_tick_is_worth_it)
     EXPECT_EQ(work.queue.prepareNodeIcon({}), Tick::Stopped) << "none is expected";
 }
 
+TEST(IconWorkQueue, a_thumbnail_keeps_its_place_until_its_pixels_are_there)
+{
+    Work work;
+    std::string ready;
+    work.queue.pixelsAreReady = [&](DicomElemChildNode* node) {
+        return ready.find(work.Letter(node)) != std::string::npos;
+    };
+    work.Display("AB");
+    const int expected = work.queue.fIconWorkDone();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(work.queue.prepareNodeIcon({}), Tick::Preparing);
+    EXPECT_EQ(work.queue.fIconWorkDone(), expected);
+    ready = "A";
+    EXPECT_EQ(work.Run(), "") << "A doesn't overtake";
+    work.Display("A");
+    EXPECT_EQ(work.Run(), "A") << "but where the user looks at it";
+    ready = "B";
+    EXPECT_EQ(work.Run(), "B");
+}
+
 TEST(IconWorkQueue, ends_when_every_icon_and_text_is_there)
 {
     Work work;

@@ -45,6 +45,14 @@ bool SamePixels(const Port& a, const Port& b, int skip = 0)
     return true;
 }
 
+std::size_t FilesOfFrames()
+{
+    std::size_t files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(GetProgramTempFolder()))
+        files += entry.path().filename().string().starts_with("Temp_") ? 1 : 0;
+    return files;
+}
+
 class ImageBuffer : public testing::TestWithParam<std::uint32_t> {
 protected:
     void SetUp() override
@@ -238,10 +246,7 @@ TEST_P(DiskBuffer, a_full_disk_makes_room_or_says_so)
     EXPECT_EQ(status, kZelBufferFull);
     EXPECT_EQ(buffer->BytesUsed(), 30000) << "twice the frame's size has gone";
     EXPECT_TRUE(!Holds(1) && !Holds(2) && Holds(3) && !Holds(6));
-    std::size_t files = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(GetProgramTempFolder()))
-        files += entry.path().filename().string().starts_with("Temp_") ? 1 : 0;
-    EXPECT_EQ(files, buffer->CountImages());
+    EXPECT_EQ(FilesOfFrames(), buffer->CountImages());
 
     const auto color = PortOf(kPixelFormatARGB32, 10, 10, 1);
     buffer->SetIOBufferSize(0);
@@ -281,6 +286,44 @@ TEST_P(DiskBuffer, indexed_and_compressed_frames_are_drawn_as_what_they_were)
                    : kQvxBadArgument;
     });
     EXPECT_EQ(buffer->DrawImageByID(2, 7, target.get(), nullptr), kQvxOK);
+}
+TEST_P(DiskBuffer, takes_what_was_written_elsewhere_or_deletes_it)
+{
+    std::unique_ptr<Port> indexed;
+    const std::optional<ColorTable> table = SystemColorTable(40);
+    ASSERT_EQ(NewPort(8, 100, 100, &*table, &indexed), kQvxOK);
+    std::memset(indexed->baseAddr, 90, 100 * 100);
+    const auto gray = PortOf(kPixelFormatGray16, 100, 100, 3);
+    const auto color = PortOf(kPixelFormatARGB32, 100, 100, 40);
+    std::vector<std::uint8_t> block(1 << 12);
+    const auto written = [&](const Port& port) {
+        std::string path;
+        WrittenPixels pixels;
+        EXPECT_EQ(NewTempFile(&path), kQvxOK);
+        EXPECT_EQ(pixels.Write(port, port.bounds, path, block), kQvxOK);
+        return pixels;
+    };
+    std::int32_t id = 0;
+    for (const Port* port : {gray.get(), color.get(), indexed.get()}) {
+        ASSERT_EQ(buffer->TakeImage(written(*port), Params(*port, ++id)), kQvxOK) << id;
+        ASSERT_EQ(buffer->AddNewImage(Params(*port, id + 10)), kQvxOK);
+        auto taken = PortOf(kPixelFormatARGB32, 50, 50, 1), added = PortOf(32, 50, 50, 2);
+        ASSERT_EQ(buffer->DrawImageByID(id, 7, taken.get(), nullptr), kQvxOK);
+        ASSERT_EQ(buffer->DrawImageByID(id + 10, 7, added.get(), nullptr), kQvxOK);
+        EXPECT_TRUE(SamePixels(*taken, *added)) << id;
+    }
+    EXPECT_EQ(buffer->BytesUsed(), 2 * (20000 + 30000 + 10000));
+
+    EXPECT_EQ(buffer->TakeImage({}, Params(*gray, 4)), kQvxBadArgument);
+    EXPECT_EQ(buffer->TakeImage(written(*gray), Params(*gray, 0)), kQvxBadArgument);
+    EXPECT_EQ(buffer->TakeImage(written(*gray), Params(*gray, 1)), kQvxBadArgument) << "taken";
+    ASSERT_EQ(buffer->SetBufLimit(120000), kQvxOK);
+    EXPECT_EQ(buffer->TakeImage(written(*gray), Params(*gray, 4, 1, 1)), kZelBufferFull);
+    EXPECT_EQ(written(*gray).Write(*gray, gray->bounds, "/nowhere/file", block), kQvxFileNotFound);
+    EXPECT_EQ(FilesOfFrames(), buffer->CountImages());
+    ASSERT_EQ(buffer->TakeImage(written(*gray), Params(*gray, 4)), kQvxOK);
+    EXPECT_FALSE(Holds(1)) << "the oldest made room";
+    EXPECT_EQ(FilesOfFrames(), buffer->CountImages());
 }
 INSTANTIATE_TEST_SUITE_P(Disk, DiskBuffer, testing::Values(kBufferOnDisk));
 
